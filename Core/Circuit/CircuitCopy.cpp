@@ -1,0 +1,179 @@
+// Copies of circuits, declarations, and the units that are made from them.
+
+#include "Core/Circuit/Circuit.h"
+#include "Core/Circuit/CircuitSpec.h"
+#include "Core/Support/Error.h"
+
+namespace tarnsim {
+
+namespace {
+
+/// A declaration has this name until its statements are read and give it its own.
+constexpr const char* kNameBeforeLoading = "spec-inst-name";
+
+/// The name of a unit while it stands beside the one that it replaces. Nobody gives a unit such a name.
+constexpr const char* kNameWhileReplacing = "qocksiKUTMCNSAL923859kkdjOLDHGj348fnSkdfj";
+
+}  // namespace
+
+Circuit::Circuit(const Circuit& other)
+    : Component(other), filePath_(other.filePath_), notLoaded_(false), importPaths_(other.importPaths_) {
+    simulator_ = other.findSimulator();
+    setParent(nullptr);
+    copyChildren(other);
+    copyNets(other);
+    for (const Circuit* declaration : other.declarations_) {
+        Circuit* copy = componentFactory_.copy(*declaration);
+        if (copy == nullptr) {
+            throw Error("Cannot make a copy of circuit declaration '%s' in circuit '%s'.",
+                        declaration->getName().c_str(), getName().c_str());
+        }
+        copy->setParent(this);
+        declarations_.append(copy);
+    }
+    for (const auto& comment : other.comments_) addComment(comment->getText());
+}
+
+void Circuit::copyChildren(const Circuit& other) {
+    for (Component* child : other.children_) {
+        Component* copy = nullptr;
+        if (ComponentFactory::isBuiltIn(child->getType())) {
+            copy = componentFactory_.create(child->getType(), child->getInstanceText());
+            copy->setCommentText(child->getCommentText());
+        } else if (const auto* circuit = dynamic_cast<const Circuit*>(child)) {
+            copy = componentFactory_.copy(*circuit);
+        }
+        if (copy == nullptr) {
+            throw Error("Cannot make a copy of component '%s' in circuit '%s'.", child->getName().c_str(),
+                        getName().c_str());
+        }
+        copy->setParent(this);
+        children_.append(copy);
+    }
+}
+
+void Circuit::copyNets(const Circuit& other) {
+    const auto paths = other.pathsOfNetPorts();
+    for (Net* net : other.nets_) {
+        std::vector<Port*> ports;
+        for (const Port* port : net->getPorts()) {
+            const std::string& path = paths.at(port);
+            Port* counterpart = findPort(path);
+            if (counterpart == nullptr) {
+                throw Error("Cann't find port path '%s' in circuit '%s'", path.c_str(), getName().c_str());
+            }
+            ports.push_back(counterpart);
+        }
+        createNet(net->getName(), ports)->setCommentText(net->getCommentText());
+    }
+}
+
+/// What getPortPath gives for each port on a net of this circuit, by one walk over the ports of the circuit and of its
+/// units instead of one for each port. Ports deeper down are rare and are searched for.
+std::unordered_map<const Port*, std::string> Circuit::pathsOfNetPorts() const {
+    std::unordered_map<const Port*, std::string> paths;
+    for (const Port* port : getPorts()) paths.emplace(port, port->getName());
+    for (const Component* child : children_) {
+        for (const Port* port : child->getPorts()) paths.emplace(port, child->getName() + "." + port->getName());
+    }
+    for (const Net* net : nets_) {
+        for (const Port* port : net->getPorts()) {
+            if (!paths.contains(port)) paths.emplace(port, getPortPath(port));
+        }
+    }
+    return paths;
+}
+
+std::unique_ptr<Circuit> Circuit::cloneCircuit(const Circuit& source) const {
+    return std::make_unique<Circuit>(source);
+}
+
+std::unique_ptr<Circuit> Circuit::createDeclaration(const CircuitSpec& spec, Circuit* parent) const {
+    auto declaration = std::make_unique<Circuit>(spec.getName(), kNameBeforeLoading, parent);
+    declaration->setSpec(spec);
+    return declaration;
+}
+
+Circuit* Circuit::findDeclaration(const std::string& type) const {
+    if (declarationsByType_.empty()) {
+        for (Circuit* declaration : declarations_) declarationsByType_.emplace(declaration->getType(), declaration);
+    }
+    const auto found = declarationsByType_.find(type);
+    return found == declarationsByType_.end() ? nullptr : found->second;
+}
+
+void Circuit::addDeclaration(const CircuitSpec& spec) {
+    const char* name = spec.getName().c_str();
+    if (ComponentFactory::isBuiltIn(spec.getName())) {
+        throw Error("Error: Circuit name '%s' (within '%s') identical to a component.", name, getName().c_str());
+    }
+    if (declarations_.findFirst(spec.getName()) != nullptr) {
+        throw Error("Error: Duplicated sub-circuits '%s' within circuit '%s'.", name, getName().c_str());
+    }
+    auto declaration = createDeclaration(spec, this);
+    declarations_.append(declaration.get());
+    componentFactory_.adopt(std::move(declaration));
+    declarationTypeChanged();
+}
+
+void Circuit::copyDeclarationIn(const Circuit& circuit) {
+    Circuit* copy = componentFactory_.copy(circuit);
+    copy->setParent(this);
+    declarations_.append(copy);
+    declarationTypeChanged();
+}
+
+void Circuit::replaceDeclaration(const Circuit& circuit) {
+    if (const Circuit* present = findDeclaration(circuit.getType())) {
+        declarations_.remove(present);
+        declarationTypeChanged();
+    }
+    copyDeclarationIn(circuit);
+}
+
+void Circuit::redefineDeclaration(const Circuit& circuit) {
+    replaceDeclaration(circuit);
+    updateInstances(circuit);
+}
+
+void Circuit::updateInstances(const Circuit& circuit) {
+    const std::string type = circuit.getType();
+    const Circuit* declaration = findDeclaration(type);
+    if (declaration == nullptr) throw Error("Can't find a declaration of circuit of type '%s'.", type.c_str());
+
+    std::vector<Circuit*> instances;
+    for (Component* child : children_) {
+        auto* instance = dynamic_cast<Circuit*>(child);
+        if (instance != nullptr && instance != &circuit && instance->getType() == type) instances.push_back(instance);
+    }
+    for (Circuit* instance : instances) {
+        Circuit* copy = componentFactory_.copy(*declaration);
+        copy->setName(kNameWhileReplacing);
+        replaceChild(instance, copy);
+        copy->setName(instance->getName());
+    }
+}
+
+Circuit* Circuit::instantiate(const std::string& type, const std::string& name) {
+    const Circuit* declaration = findDeclaration(type);
+    if (declaration == nullptr) return nullptr;
+    Circuit* copy = componentFactory_.copy(*declaration);
+    copy->setName(name.empty() ? declaration->getName() + "_copy" : name);
+    return copy;
+}
+
+Component* Circuit::createUnit(const std::string& type, const std::string& name) {
+    if (ComponentFactory::isBuiltIn(type)) return componentFactory_.create(type, name);
+    Circuit* unit = instantiate(type, name);
+    if (unit == nullptr) throw Error("Can't find a declaration of circuit of type '%s'.", type.c_str());
+    return unit;
+}
+
+Component* Circuit::addComponent(const std::string& type, const std::string& name) {
+    Component* component = createUnit(type, name);
+    children_.append(component);
+    component->setParent(this);
+    return component;
+}
+
+}  // namespace tarnsim

@@ -1,0 +1,215 @@
+#include "Core/Circuit/CircuitSpec.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <optional>
+#include <utility>
+
+#include "Core/Support/Error.h"
+#include "Core/Support/Text.h"
+#include "Core/Support/TextFile.h"
+
+namespace tarnsim {
+
+namespace {
+
+/// `name` in the directory of `file`. A file without a directory leaves it as it is.
+std::string inDirectoryOf(const std::string& file, const std::string& name) {
+    const std::size_t slash = file.rfind('/');
+    return slash == std::string::npos ? name : file.substr(0, slash + 1) + name;
+}
+
+}  // namespace
+
+CircuitSpec::CircuitSpec(const std::string& fileName)
+    : name_(fileName), fileName_(fileName), current_(this), parentSpec_(nullptr) {
+    parseFile(fileName);
+}
+
+CircuitSpec::CircuitSpec(CircuitSpec* parent, const std::string& name)
+    : name_(name), lineNumber_(parent->lineNumber_), current_(this), parentSpec_(parent) {}
+
+void CircuitSpec::addCommentLine(const std::string& text) {
+    current_->pendingComment_ += text + "\n";
+}
+
+std::string CircuitSpec::getFileName() const {
+    const CircuitSpec* body = this;
+    while (body->fileName_.empty() && body->parentSpec_ != nullptr) body = body->parentSpec_;
+    return body->fileName_;
+}
+
+std::size_t CircuitSpec::countUnits() const {
+    std::size_t count = 0;
+    for (const UnitLine& line : unitLines) count += line.names.size();
+    return count;
+}
+
+bool CircuitSpec::hasPendingComment() const {
+    return current_->pendingComment_.find_first_not_of(kWhiteSpace) != std::string::npos;
+}
+
+void CircuitSpec::parseFile(const std::string& path) {
+    TextFile file(resolveFile(path));
+    if (!file.isOpen()) throw Error("Error: File not found: '" + path + "'.");
+    std::string line;
+    while (file.readLine(line)) handleLine(line);
+    current_->checkSharedPorts();
+}
+
+void CircuitSpec::handleLine(std::string line) {
+    ++current_->lineNumber_;
+    // Only a line without any character ends a comment block; one with blanks doesn't.
+    const bool isEmpty = line.empty();
+    prepareLine(line);
+    if (!line.empty()) handleStatement(line);
+    if (isEmpty) flushComment();
+}
+
+void CircuitSpec::flushComment() {
+    if (hasPendingComment()) current_->freeComments.push_back(std::exchange(current_->pendingComment_, ""));
+}
+
+void CircuitSpec::handleStatement(const std::string& line) {
+    const Fields fields = splitWords(line);
+    const std::string& keyword = fields[0];
+    if (keyword == "Import") {
+        flushComment();
+        includeFile(relativeToCurrent(quotedValue(line)));
+    } else if (keyword == "ImportPath") {
+        flushComment();
+        importPaths.push_back(quotedValue(line));
+    } else if (keyword == "Unit") {
+        addRecord(&CircuitSpec::unitLines, fields);
+    } else if (keyword == "Net") {
+        addRecord(&CircuitSpec::netLines, fields);
+    } else if (keyword == "Port") {
+        addRecord(&CircuitSpec::portLines, fields);
+    } else if (keyword == "Pin") {
+        addRecord(&CircuitSpec::pinLines, fields);
+    } else if (keyword == "MetaData") {
+        flushComment();
+        const std::string value = quotedValue(line);
+        current_->metaDataLines.emplace_back(fields[1], value, current_->lineNumber_, fileName_);
+    } else if (keyword == "Circuit") {
+        handleCircuit(fields, line);
+    } else if (keyword == "}") {
+        handleClosingBrace(fields);
+    } else {
+        // The top-level count on purpose: inside a nested body it stands at the line that opened the body.
+        throw Error("Error in %s:%d: Illegal keyword: '%s'.", fileName_.c_str(), lineNumber_, keyword.c_str());
+    }
+}
+
+template <class Record>
+void CircuitSpec::addRecord(std::vector<Record> CircuitSpec::*records, const Fields& fields) {
+    // The name of the top-level file also for statements of a body that is read from another one.
+    Record record(fields, current_->lineNumber_, fileName_);
+    record.setCommentText(std::exchange(current_->pendingComment_, ""));
+    (current_->*records).push_back(std::move(record));
+}
+
+void CircuitSpec::handleCircuit(const Fields& fields, const std::string& line) {
+    flushComment();
+    if (fields.size() < 3) {
+        throw Error("Circuit syntax error in %s:%d.", current_->getFileName().c_str(), current_->lineNumber_);
+    }
+    if (fields[2].front() == '{') {
+        pushBody(fields[1], "");
+    } else if (fields[2].front() == '"') {
+        const std::string file = quotedValue(line);
+        const std::string path = relativeToCurrent(file);
+        pushBody(fields[1], file);
+        CircuitSpec* body = current_;
+        body->isReadingOwnFile_ = true;
+        includeFile(path);
+        body->isReadingOwnFile_ = false;
+        current_->checkSharedPorts();
+        current_ = current_->parentSpec_;
+    } else {
+        throw Error("Unrecognized field following Circuit keyword in %s:%d: '%s'", current_->getFileName().c_str(),
+                    current_->lineNumber_, fields[2].c_str());
+    }
+}
+
+void CircuitSpec::handleClosingBrace(const Fields& fields) {
+    flushComment();
+    if (fields.size() > 1) {
+        throw Error("Unrecognized field following } keyword in %s:%d: '%s'", current_->getFileName().c_str(),
+                    current_->lineNumber_, (fields.size() > 2 ? fields[2] : fields[1]).c_str());
+    }
+    current_->checkSharedPorts();
+    if (current_->parentSpec_ == nullptr || current_->isReadingOwnFile_) {
+        throw Error("Error in %s:%d: } without an open Circuit.", current_->getFileName().c_str(),
+                    current_->lineNumber_);
+    }
+    current_ = current_->parentSpec_;
+}
+
+void CircuitSpec::pushBody(const std::string& name, const std::string& file) {
+    auto body = std::make_unique<CircuitSpec>(current_, name);
+    body->fileName_ = file;
+    current_ = current_->subSpecs.emplace_back(std::move(body)).get();
+}
+
+void CircuitSpec::includeFile(const std::string& path) {
+    CircuitSpec* body = current_;
+    const std::string fileName = std::exchange(body->fileName_, path);
+    const int lineNumber = std::exchange(body->lineNumber_, 0);
+    parseFile(path);
+    body->fileName_ = fileName;
+    body->lineNumber_ = lineNumber;
+}
+
+std::string CircuitSpec::quotedValue(const std::string& line) const {
+    const std::size_t open = line.find_first_of("\"'");
+    const std::size_t close = open == std::string::npos ? open : line.find(line[open], open + 1);
+    if (close == std::string::npos) {
+        throw Error("Error in %s:%d: Syntax error in path specification statement.", fileName_.c_str(),
+                    current_->lineNumber_);
+    }
+    if (close == open + 1) {
+        std::fprintf(stderr, "Warning: Empty Import (-Path) or MetaData statement in %s:%d", fileName_.c_str(),
+                     current_->lineNumber_);
+    }
+    return line.substr(open + 1, close - open - 1);
+}
+
+std::string CircuitSpec::relativeToCurrent(const std::string& name) const {
+    const std::string path = inDirectoryOf(current_->fileName_, name);
+    if (!current_->isInline() || fileExists(path)) return path;
+    // An inline body has no file of its own, but its designer looks from the file that it stands in.
+    const std::string nearby = inDirectoryOf(current_->getFileName(), name);
+    return fileExists(nearby) ? nearby : path;
+}
+
+std::string CircuitSpec::resolveFile(const std::string& path) const {
+    if (fileExists(path)) return path;
+    const std::string name = std::filesystem::path(path).filename().string();
+    for (const std::string& directory : importPaths) {
+        const std::string candidate = directory + "/" + name;
+        if (fileExists(candidate)) return candidate;
+    }
+    return path;
+}
+
+void CircuitSpec::checkSharedPorts() {
+    // The pair that a comparison of each net with all later ones would find first. Nets that were checked before share
+    // nothing, so only those that came since are looked at.
+    std::optional<std::pair<std::size_t, std::size_t>> clash;
+    for (; checkedNets_ < netLines.size(); ++checkedNets_) {
+        for (const std::string& port : netLines[checkedNets_].ports) {
+            const std::size_t first = netOfPort_.emplace(port, checkedNets_).first->second;
+            if (first == checkedNets_) continue;
+            const std::pair pair(first, checkedNets_);
+            if (!clash || pair < *clash) clash = pair;
+        }
+    }
+    if (!clash) return;
+    const NetLine& a = netLines[clash->first];
+    const NetLine& b = netLines[clash->second];
+    throw Error("Error in line %s:%d: net '%s' and net '%s' shares the pin '%s'.", a.fileName.c_str(), a.lineNumber,
+                a.name.c_str(), b.name.c_str(), a.sharedPort(b).c_str());
+}
+
+}  // namespace tarnsim

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "Core/Circuit/FileParser.h"
+#include "Core/Circuit/Lines.h"
+
+namespace tarnsim {
+
+/// What a circuit file says: the statements of one circuit body, and the nested bodies. Constructing the top-level
+/// object reads the file with all that it imports; a circuit is then built from it (Circuit::setSpec). Nothing but
+/// files is looked up here.
+///
+/// The grammar is told in Docs/Formats.md. All refusals are Errors, out of the constructor.
+class CircuitSpec : public FileParser {
+public:
+    /// Reads the file; its path is also the circuit's name.
+    explicit CircuitSpec(const std::string& fileName);
+    /// An empty body inside `parent`, which isn't owned and lives longer.
+    CircuitSpec(CircuitSpec* parent, const std::string& name);
+    CircuitSpec(const CircuitSpec&) = delete;
+    CircuitSpec& operator=(const CircuitSpec&) = delete;
+    ~CircuitSpec() override = default;
+
+    /// Keeps a comment line until a statement takes it.
+    void addCommentLine(const std::string& text) override;
+
+    const std::string& getName() const { return name_; }
+    void setName(const std::string& name) { name_ = name; }
+    /// The file of this body, or of the nearest one around it that has a file.
+    std::string getFileName() const;
+    /// The body stands in braces, in somebody else's file.
+    bool isInline() const { return fileName_.empty(); }
+    std::size_t countUnits() const;
+    std::size_t countNets() const { return netLines.size(); }
+    /// Whether there are comment lines that no statement has taken yet.
+    bool hasPendingComment() const;
+    void clearPendingComment() { current_->pendingComment_.clear(); }
+
+    /// For those who keep a pointer to this object: it's empty as soon as the object is gone.
+    std::weak_ptr<const CircuitSpec> watch() const { return lifetime_; }
+
+    // The statements, each kind in the order of the file.
+
+    std::vector<UnitLine> unitLines;
+    std::vector<NetLine> netLines;
+    std::vector<PortLine> portLines;
+    std::vector<PinLine> pinLines;
+    std::vector<std::unique_ptr<CircuitSpec>> subSpecs;
+    std::vector<MetaDataLine> metaDataLines;
+    std::vector<std::string> importPaths;   ///< of the whole load; kept by the top-level object
+    std::vector<std::string> freeComments;  ///< comments that belong to no statement
+
+private:
+    using Fields = std::vector<std::string>;
+
+    // Only the top-level object reads; the bodies inside it are filled by it.
+
+    void parseFile(const std::string& path);
+    void handleLine(std::string line);
+    void handleStatement(const std::string& line);
+    void handleCircuit(const Fields& fields, const std::string& line);
+    void handleClosingBrace(const Fields& fields);
+    template <class Record>
+    void addRecord(std::vector<Record> CircuitSpec::*records, const Fields& fields);
+    void flushComment();
+    void pushBody(const std::string& name, const std::string& file);
+    void includeFile(const std::string& path);
+    std::string quotedValue(const std::string& line) const;
+    std::string relativeToCurrent(const std::string& name) const;
+    std::string resolveFile(const std::string& path) const;
+    /// Two nets of a body mustn't name the same port.
+    void checkSharedPorts();
+
+    std::string name_;
+    std::string fileName_;  ///< the file being read into this body; empty for an inline body
+    int lineNumber_ = 0;  ///< an inline body counts on from where it opens; the body around it doesn't count meanwhile
+    CircuitSpec* current_;     ///< of the top-level object: the body that statements go to
+    CircuitSpec* parentSpec_;  ///< not owned; null at the top level
+    std::string pendingComment_;
+    bool isReadingOwnFile_ = false;  ///< a body in a file of its own, which ends with the file and not with a brace
+
+    std::unordered_map<std::string, std::size_t> netOfPort_;  ///< checkSharedPorts: the first net that names a port
+    std::size_t checkedNets_ = 0;                             ///< and how many nets are in there
+
+    /// Points here without owning.
+    std::shared_ptr<const CircuitSpec> lifetime_{this, [](const CircuitSpec*) {}};
+};
+
+}  // namespace tarnsim

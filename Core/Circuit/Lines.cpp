@@ -1,0 +1,84 @@
+#include "Core/Circuit/Lines.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <unordered_set>
+
+#include "Core/Circuit/NamePatterns.h"
+#include "Core/Support/Error.h"
+#include "Core/Support/Text.h"
+
+namespace tarnsim {
+
+MetaDataLine::MetaDataLine(const std::string& name, const std::string& text, int number, const std::string& file)
+    : Line(number, file), key(name), value(text) {}
+
+NetLine::NetLine(const std::vector<std::string>& fields, int number, const std::string& file) : Line(number, file) {
+    if (fields.size() < 3) {
+        throw Error("Error in %s:%d: Net needs a name and at least one port: Net <name> <ports...>", fileName.c_str(),
+                    lineNumber);
+    }
+    if (fields.size() == 3) {
+        std::fprintf(stderr, "*** WARNING %s:%d: Only one port in Net. May indicate missing net name.\n",
+                     fileName.c_str(), lineNumber);
+    }
+    name = fields[1];
+    ports.assign(fields.begin() + 2, fields.end());
+    std::unordered_set<std::string> known;
+    for (const std::string& port : ports) {
+        if (known.insert(port).second) continue;
+        throw Error("Error in %s:%d: Repeated port: '%s'.", fileName.c_str(), lineNumber, port.c_str());
+    }
+}
+
+std::string NetLine::sharedPort(const NetLine& other) const {
+    const std::unordered_set<std::string> others(other.ports.begin(), other.ports.end());
+    const auto shared = std::ranges::find_if(ports, [&](const std::string& port) { return others.contains(port); });
+    return shared == ports.end() ? "" : *shared;
+}
+
+PinLine::PinLine(const std::vector<std::string>& fields, int number, const std::string& file) : Line(number, file) {
+    if (fields.size() < 3) {
+        throw Error("Error on line %d, in file %s: Pin takes at least 2 arguments: Pin <direction> <name>", lineNumber,
+                    fileName.c_str());
+    }
+    direction = fields[1];
+    names.assign(fields.begin() + 2, fields.end());
+}
+
+PortLine::PortLine(const std::vector<std::string>& fields, int number, const std::string& file) : Line(number, file) {
+    if (fields.size() < 4) {
+        throw Error("Error on line %d, in file %s: Port takes at least 3 arguments: Port <direction> <size> <name>",
+                    lineNumber, fileName.c_str());
+    }
+    size = fields[2];
+    if (!isInteger(size)) {
+        throw Error("Error on line %d, in file %s: port size must be a number. '%s' is not.", lineNumber,
+                    fileName.c_str(), size.c_str());
+    }
+    direction = fields[1];
+    if (direction != "Input" && direction != "Output" && direction != "Inout") {
+        throw Error("Error on line %d, in file %s: port direction must Input or Output, '%s' is neither.", lineNumber,
+                    fileName.c_str(), direction.c_str());
+    }
+    names.assign(fields.begin() + 3, fields.end());
+}
+
+UnitLine::UnitLine(const std::vector<std::string>& fields, int number, const std::string& file) : Line(number, file) {
+    if (fields.size() < 3) {
+        throw Error("Error on line %d, in file %s: Unit takes at least 2 arguments: Unit <type> <name>", lineNumber,
+                    fileName.c_str());
+    }
+    type = fields[1];
+    for (auto field = fields.begin() + 2; field != fields.end(); ++field) {
+        const auto array = matchArrayName(*field);
+        if (!array) {
+            names.push_back(*field);
+            continue;
+        }
+        const int count = std::stoi(std::string(array->count));
+        for (int i = 0; i < count; ++i) names.push_back(std::string(array->prefix) + format("[%d]", i));
+    }
+}
+
+}  // namespace tarnsim

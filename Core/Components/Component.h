@@ -1,0 +1,151 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "Core/Simulation/Port.h"
+#include "Core/Support/BaseObject.h"
+#include "Core/Support/Comment.h"
+#include "Core/Support/NamedList.h"
+#include "Core/Support/ParaMap.h"
+#include "Core/Values/ValueHistory.h"
+
+namespace tarnsim {
+
+class Circuit;
+class EventSimulator;
+
+/// The base of everything that can stand in a circuit: gates, chips, memories, processors and Circuit itself.
+///
+/// A component owns the ports that it makes, keeps its parameters, and hears of the changes of its Input ports. Its
+/// life: a factory constructs it and applies the parameters of its unit; the circuit becomes its parent and connects
+/// its ports; `onLoaded` when the whole file is there; before a run `reset`, then `start`; during the run `evaluate`
+/// and `evaluateTagged` from the queue.
+///
+/// The name is the unit's instance name, the type the name that files use for the kind of part.
+class Component : public BaseObject, public CommentableObject, public ValueChangeSubscriber {
+public:
+    /// `type` goes through cutChipPrefix.
+    Component(const std::string& type, const std::string& name, Circuit* parent);
+    /// Without parent. Takes a copy of the parameters but doesn't apply them: the concrete type does.
+    Component(const std::string& type, const std::string& name, const ParaMap& parameters);
+    /// Detaches all ports from their nets.
+    ~Component() override;
+    Component& operator=(const Component&) = delete;
+
+    /// The file is loaded; `owner` is the circuit that this component stands in.
+    virtual void onLoaded(Circuit* owner);
+    /// Forgets the state of earlier runs. Parts with a state clear it and call this one, which clears the ports'
+    /// histories.
+    virtual void reset();
+    /// The run to come ends at `endTime`. Sources drive, clocks schedule.
+    virtual void start(Time endTime);
+    /// Reads the inputs and sets the outputs at `time`.
+    virtual void evaluate(Time time) = 0;
+    /// The same for an event that this component scheduled with a `tag`.
+    virtual void evaluateTagged(Time time, std::uint64_t tag);
+    /// An Input port's history changes. Leads to inputChanged; not for parts to override.
+    void valueChanged(ValueHistory* history, const ValueChange& change) override;
+    /// An Input port changes at `time`. The port still holds the old value.
+    virtual void inputChanged(Port* port, const Value& oldValue, const Value& newValue, Time time);
+    /// Leaves the nets outside.
+    virtual void disconnectPorts();
+    /// Reads `getParameters()` into the part's own settings.
+    virtual void applyParameters() = 0;
+    virtual Circuit* getParent() { return parent_; }
+    virtual const Circuit* getParent() const { return parent_; }
+    /// A text for a display; empty unless a part has something to say.
+    virtual std::string getDescription() const;
+
+    /// Adds a port at the end; subscribes to it if it is an Input. The port isn't owned unless this component made it.
+    /// Raises an Error for null.
+    void addPort(Port* port);
+    /// Renames the port, then adds it.
+    void addPort(Port* port, const std::string& name);
+    Port* createPort(std::uint32_t size, Direction direction, const std::string& name);
+    Pin* createPin(Direction direction, const std::string& name);
+    /// Takes the port off its nets and out of the list, and ends the subscription.
+    void removePort(Port* port);
+
+    /// The first port of that name or id; null if there is none.
+    Port* findPort(const std::string& name) const { return ports_.findFirst(name); }
+    Port* findPortById(const std::string& id) const;
+    /// As findPort; null if the port isn't a Pin.
+    Pin* findPin(const std::string& name) const;
+    bool hasPort(const Port* port) const { return ports_.contains(port); }
+    std::size_t countPorts(const std::string& name) const { return ports_.count(name); }
+    bool hasPortNamed(const std::string& name) const { return findPort(name) != nullptr; }
+    std::size_t countPortsById(const std::string& id) const;
+    bool hasPortId(const std::string& id) const { return findPortById(id) != nullptr; }
+    /// In order of creation.
+    const std::vector<Port*>& getPorts() const { return ports_.items(); }
+
+    const std::string& getType() const { return type_; }
+    /// As it stands: no prefix is cut.
+    void setType(const std::string& type);
+    ParaMap& getParameters() { return parameters_; }
+    const ParaMap& getParameters() const { return parameters_; }
+    std::string getParameterText() const { return parameters_.toString(); }
+    std::string getParameterTextExcept(const ParaMap& defaults) const { return parameters_.toStringExcept(defaults); }
+    /// The registry's help text for the type.
+    std::string getTypeDoc() const;
+    /// Takes over the entries of `parameters` in place of those that are there, and applies them.
+    void setParameters(const ParaMap& parameters);
+    /// `name(a=b,c=d)`: from this text and the type a factory makes the same part.
+    std::string getInstanceText() const { return getName() + getParameterText(); }
+    void setParent(Circuit* circuit) { parent_ = circuit; }
+
+    /// The simulator of the circuit that this component stands in; null if there is none.
+    EventSimulator* getSimulator() const;
+    /// Has `target` evaluated at `time`, absolute and in ns. Without a simulator nothing happens.
+    void schedule(Component* target, Time time) const;
+    void scheduleTagged(Component* target, std::uint64_t tag, Time time) const;
+
+    /// Sets each Input, or each Output, to what it reads at `time`. Inouts are left alone.
+    void refreshInputs(Time time);
+    void refreshOutputs(Time time);
+
+    /// Prints a warning for each Input that has no net outside.
+    void checkConnections() const;
+
+protected:
+    /// For a circuit, which alone is copied: copies of the ports, on no nets, in their order.
+    Component(const Component& other);
+
+    const NamedList<Port>& portList() const { return ports_; }
+
+private:
+    void refreshAll(Direction direction, Time time);
+
+    Circuit* parent_;        ///< not owned
+    NamedList<Port> ports_;  ///< not owned here but by a factory, mostly the one below
+    PortFactory portFactory_;
+    ParaMap parameters_;
+    std::string type_;
+};
+
+/// A component whose outputs follow its inputs after one delay: `evaluate(t)` reads the inputs at `t - delay` and sets
+/// the outputs at `t`. So every change comes through, pulses shorter than the delay too.
+class SingleDelayComponent : public Component {
+public:
+    /// A delay of 0 until applyParameters reads one.
+    SingleDelayComponent(const std::string& type, const std::string& name, const ParaMap& parameters);
+    SingleDelayComponent(const std::string& type, const std::string& name, std::uint32_t delay);
+
+    /// Schedules the evaluation of this component for `time + delay`, whatever changed.
+    void inputChanged(Port* port, const Value& oldValue, const Value& newValue, Time time) override;
+    /// Reads `delay`; an absent one leaves it as it is.
+    void applyParameters() override;
+
+    std::uint32_t getDelay() const { return delay_; }
+
+protected:
+    /// What `port` held when the change that leads to an evaluation at `time` took place.
+    Value delayedInput(const Port& port, Time time) const { return port.get(earlier(time, delay_)); }
+
+private:
+    std::uint32_t delay_;  ///< ns
+};
+
+}  // namespace tarnsim

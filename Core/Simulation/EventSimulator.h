@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "Core/Simulation/EventQueue.h"
+#include "Core/Values/Time.h"
+
+namespace tarnsim {
+
+class Circuit;
+class Component;
+class Net;
+class Port;
+
+/// The kernel: works through a queue of components to be called, in order of time.
+///
+/// It carries no values; those are in the histories of ports and nets, written for any time at any moment. One
+/// simulator serves one root circuit, which it doesn't own. The order of use is: construction, `prepare`, stimuli set
+/// on ports, `run` once, then the tables. Nothing leaves the queue, so a second `run` would call everything again.
+class EventSimulator {
+public:
+    /// Makes itself known to `circuit`, so that its components can schedule.
+    explicit EventSimulator(Circuit* circuit);
+    virtual ~EventSimulator() = default;
+    EventSimulator(const EventSimulator&) = delete;
+    EventSimulator& operator=(const EventSimulator&) = delete;
+
+    /// `target` is evaluated at `time` (absolute, ns), once for all calls with the same arguments. A time that the run
+    /// has passed never comes.
+    void schedule(Component* target, Time time) { schedule(target, 0, time); }
+    /// The same with a tag that `target` gets back. A tag of 0 is a plain event.
+    void schedule(Component* target, std::uint64_t tag, Time time) { events_.insert({target, tag}, time); }
+
+    /// Resets the circuit, then starts it.
+    void prepare(Time endTime);
+
+    /// Calls everything that is due up to and including `endTime`. What happens at one time happens in passes, as many
+    /// as it takes; a pair (target, tag) is called at most once a time, which ends loops without delay.
+    void run(Time endTime);
+
+    Circuit* getCircuit() const { return circuit_; }
+    /// The time that the run has reached: that of the first events beyond its end if there are any.
+    Time getTime() const { return now_; }
+    /// A byte that, once not 0, ends the run before the next point in time. Cleared by `run`. Not owned, may be null.
+    void setAbortFlag(volatile char* flag) { abortFlag_ = flag; }
+
+    // The table of results, on the standard output: a line for each stop, with the ports named by `inputs` and
+    // `outputs` (paths through the hierarchy), then the nets. Raises an Error for a name that isn't there.
+
+    /// Stops at 0, `step`, 2 * `step` and so on, up to the end of the run. REQUIRES: step > 0.
+    void printEvery(const std::vector<std::string>& inputs, const std::vector<std::string>& outputs,
+                    const std::vector<std::string>& nets, Time step);
+    void printAt(const std::vector<std::string>& inputs, const std::vector<std::string>& outputs,
+                 const std::vector<std::string>& nets, const std::vector<Time>& times);
+
+private:
+    struct Table;
+
+    void workThrough(EventSet& events, Time time);
+    Table makeTable(const std::vector<std::string>& inputs, const std::vector<std::string>& outputs,
+                    const std::vector<std::string>& nets) const;
+    void printRow(const Table& table, Time time);
+
+    Circuit* circuit_;  ///< not owned
+    EventQueue events_;
+    std::uint32_t printedRows_ = 0;  ///< of the table being printed
+    Time endTime_ = 0;               ///< of the present or last run
+    volatile char* abortFlag_ = nullptr;
+    Time now_ = 0;
+};
+
+}  // namespace tarnsim

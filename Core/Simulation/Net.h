@@ -1,0 +1,119 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <set>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "Core/Simulation/PinSpec.h"
+#include "Core/Support/BaseObject.h"
+#include "Core/Support/Comment.h"
+#include "Core/Values/ValueHistory.h"
+
+namespace tarnsim {
+
+class Net;
+class Port;
+
+/// Nets that a walk has been through already.
+using NetSet = std::set<const Net*>;
+
+/// A bundle of wires of one width. Ports attach to it by their inside (side 0) or outside (side 1).
+///
+/// Drivers are the Outputs of the components on the net, the Inputs of the circuit that the net lies in, and Inouts of
+/// that circuit on which a value was ever set. The net resolves what they put on it, bit by bit, whenever one of them
+/// is set, for the time of that value: no driver gives `Z`, one gives its level, two give `U`. It records the result
+/// and sets the ports that follow it: Inputs of the components on it, and Outputs of the circuit it lies in. An Inout
+/// joins the two nets that it lies between: they resolve as one.
+///
+/// Ports aren't owned. A net that dies detaches all its ports.
+class Net : public BaseObject, public ValueHistory, public CommentableObject {
+public:
+    /// A width of 0 is taken over from the first port.
+    explicit Net(std::uint32_t width);
+    Net(const std::string& name, std::uint32_t width);
+    ~Net() override;
+
+    /// Attaches a port of the net's width. Raises an Error if the port has a net on that side, or another width.
+    void addPort(Port* port, int side);
+    /// Attaches a port to the bits that `spec` names; the net's width plays no part. `spec` isn't owned and lives as
+    /// long as the port is attached. Raises an Error if the port has a net on that side, or `spec` another size.
+    void addPort(Port* port, const PinSpec* spec, int side);
+    /// The same for the bits from `first` to `last`.
+    void addPort(Port* port, std::int32_t first, std::int32_t last, int side);
+
+    /// Forgets the port and clears the side on which it points here.
+    void removePort(Port* port);
+    /// Detaches every port on each side on which it is attached here.
+    void disconnectAll();
+    /// Moves all ports of `other` here, each to its side. The bit ranges that `other` held aren't carried over; it
+    /// receives this net's ones.
+    void takeOver(Net& other);
+
+    /// In order of attachment; a port attached on both sides stands twice.
+    const std::vector<Port*>& getPorts() const { return ports_; }
+    /// Raises std::out_of_range ("map::at") for a port that is attached to the whole net.
+    const PinSpec* getPinSpec(const Port* port) const;
+    /// Null for a port that is attached to the whole net.
+    const PinSpec* findPinSpec(const Port* port) const;
+    bool hasPinSpecs() const { return !pinSpecs_.empty(); }
+
+    /// Whether the port drives this net.
+    bool isDriver(const Port& port) const;
+    /// Whether the port takes on this net's value.
+    bool isFollower(const Port& port) const;
+    /// The net on the port's other side; null if there is none.
+    Net* otherNet(const Port& port) const;
+
+    /// The resolved value as `port` sees it: its bits of it, or all of it if the port is null or attached to the whole.
+    Value valueFor(Time time, const Port* port) const;
+    /// What the drivers attached to this very net put on it; nothing is recorded.
+    Value driveValue(Time time) const;
+
+    /// Resolves at `time`, records the result, and passes it on: to the nets joined by Inouts that aren't in `visited`,
+    /// then to the ports that follow. Raises an Error that names the nets if the value comes round to this net again,
+    /// which it would then do for ever.
+    void update(Time time, const NetSet& visited);
+    void update(Time time) { update(time, NetSet()); }
+
+    /// One line with the names of the ports, through TLog.
+    void dump() const;
+
+private:
+    class UpdateInProgress;
+    struct Ring;
+
+    void checkSideIsFree(const Port& port, int side) const;
+    void passOn(const Value& value, Time time, const NetSet& visited);
+    void updateJoinedNets(Time time, const NetSet& visited);
+    /// Clears every side on which the port points here.
+    void letGo(Port& port) const;
+
+    std::vector<Port*> ports_;                                  ///< not owned
+    std::unordered_map<const Port*, const PinSpec*> pinSpecs_;  ///< ports attached to a part of the net
+    std::vector<std::unique_ptr<PinSpec>> ownedPinSpecs_;       ///< those that this net made itself
+    const UpdateInProgress* updates_ = nullptr;                 ///< the updates of this net that are on the stack
+};
+
+/// Makes nets and owns them.
+class NetFactory {
+public:
+    NetFactory() = default;
+    virtual ~NetFactory() = default;
+    NetFactory(const NetFactory&) = delete;
+    NetFactory& operator=(const NetFactory&) = delete;
+
+    Net* createNet(std::uint32_t width);
+    Net* createNet(const std::string& name, std::uint32_t width);
+    /// Detaches all ports of all nets.
+    void disconnectAll();
+    /// Deletes every net that no port is attached to.
+    void removeEmptyNets();
+
+private:
+    std::vector<std::unique_ptr<Net>> nets_;
+};
+
+}  // namespace tarnsim

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <limits>
+
+namespace tarnsim {
+
+/// A point in simulated time or a distance between two, in nanoseconds. There is no smaller step.
+using Time = std::int32_t;
+
+inline constexpr Time kEarliestTime = std::numeric_limits<Time>::min();
+
+inline constexpr Time kLatestTime = std::numeric_limits<Time>::max();
+
+/// `time` plus a delay in ns, in 64 bits: what lies beyond kLatestTime can be seen and never wraps into the past.
+constexpr std::int64_t later(Time time, std::uint32_t delay) {
+    return std::int64_t{time} + delay;
+}
+
+/// `time` minus a delay in ns, where an event at `time` was scheduled by that delay.
+constexpr Time earlier(Time time, std::uint32_t delay) {
+    return static_cast<Time>(static_cast<std::uint32_t>(time) - delay);
+}
+
+}  // namespace tarnsim

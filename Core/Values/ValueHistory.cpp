@@ -1,0 +1,91 @@
+#include "Core/Values/ValueHistory.h"
+
+#include <algorithm>
+
+#include "Core/Support/Error.h"
+
+namespace tarnsim {
+
+ValueHistory::ValueHistory(std::uint32_t width) : width_(width) {}
+
+void ValueHistory::set(const Value& value, Time time) {
+    if (width_ == 0 && records_.empty()) width_ = value.width();
+    if (value.width() != width_) {
+        // The value's width comes first, against the order of the words.
+        throw Error("ValueHistory: mismatching type width. ValueHistory width=%d, but value width=%d", value.width(),
+                    width_);
+    }
+    if (!subscribers_.empty()) {
+        const Value old = recordedValue(time);
+        if (old != value) {
+            const ValueChange change{old, value, time};
+            for (ValueChangeSubscriber* subscriber : subscribers_) subscriber->valueChanged(this, change);
+        }
+    }
+    records_.store(time, value.letters());
+}
+
+Value ValueHistory::get(Time time) const {
+    return recordedValue(time);
+}
+
+Value ValueHistory::recordedValue(Time time) const {
+    const auto record = records_.inForceAt(time);
+    return record ? valueOfRecord(*record) : Value(width_);
+}
+
+std::int32_t ValueHistory::maxNumber() const {
+    return static_cast<std::int32_t>((1U << (width_ % 32U)) - 1U);
+}
+
+void ValueHistory::subscribe(ValueChangeSubscriber* subscriber) {
+    const auto place = std::ranges::lower_bound(subscribers_, subscriber->subscriptionOrder(), {},
+                                                &ValueChangeSubscriber::subscriptionOrder);
+    if (place == subscribers_.end() || *place != subscriber) subscribers_.insert(place, subscriber);
+}
+
+void ValueHistory::unsubscribe(ValueChangeSubscriber* subscriber) {
+    std::erase(subscribers_, subscriber);
+}
+
+bool ValueHistory::isOneBitEdge(Time time, char before, char after) const {
+    return width_ == 1 && recordedValue(earlier(time, 1)) == before && recordedValue(time) == after;
+}
+
+bool ValueHistory::risingEdgeAt(Time time) const {
+    return isOneBitEdge(time, 'L', 'H');
+}
+
+bool ValueHistory::fallingEdgeAt(Time time) const {
+    return isOneBitEdge(time, 'H', 'L');
+}
+
+bool ValueHistory::changedAt(Time time) const {
+    return recordedValue(earlier(time, 1)) != recordedValue(time);
+}
+
+bool ValueHistory::stableBetween(Time t1, Time t2) const {
+    return stableAt(t1, t2, recordedValue(std::min(t1, t2)));
+}
+
+bool ValueHistory::stableAt(Time t1, Time t2, const Value& value) const {
+    const auto [first, last] = std::minmax(t1, t2);
+    if (recordedValue(first) != value) return false;
+    for (std::size_t i = records_.firstFrom(first); i < records_.size() && records_.timeOf(i) <= last; ++i) {
+        if (valueOfRecord(i) != value) return false;
+    }
+    return true;
+}
+
+Time ValueHistory::lastChange(Time time) const {
+    const auto inForce = records_.inForceAt(time);
+    if (!inForce) return kEarliestTime;
+    const std::string_view current = records_.lettersOf(*inForce);
+    std::size_t began = *inForce;
+    while (began > 0 && records_.lettersOf(began - 1) == current) --began;
+    // Before the first record lies U, so a signal that began with U never changed.
+    if (began == 0 && Value(width_) == current) return kEarliestTime;
+    return records_.timeOf(began);
+}
+
+}  // namespace tarnsim

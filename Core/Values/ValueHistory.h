@@ -1,0 +1,107 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "Core/Support/CreationNumber.h"
+#include "Core/Values/Time.h"
+#include "Core/Values/Value.h"
+#include "Core/Values/ValueRecords.h"
+
+namespace tarnsim {
+
+class ValueHistory;
+
+/// What a subscriber is told: at `time` the signal leaves `oldValue` for `newValue`.
+struct ValueChange {
+    Value oldValue;
+    Value newValue;
+    Time time;
+};
+
+/// Somebody who wants to hear of the changes of a signal.
+class ValueChangeSubscriber {
+public:
+    virtual ~ValueChangeSubscriber() = default;
+
+    /// Called before the history takes the new value: whoever reads it during the call still sees the old one. The call
+    /// may set other histories, but mustn't change this history's subscribers.
+    virtual void valueChanged(ValueHistory* history, const ValueChange& change) = 0;
+
+    /// Subscribers of one history are told in the order in which they were created.
+    std::uint64_t subscriptionOrder() const { return creationNumber_.value(); }
+
+private:
+    CreationNumber creationNumber_;
+};
+
+/// A signal's value over time: a value holds from the time at which it was set until the next time at which one was
+/// set.
+///
+/// Times are absolute, in ns, and may be written in any order. Every `set` makes a record, changed or not; records stay
+/// until `clear`, so the past can be read at any time: parts with a delay read their inputs so, and the result table is
+/// read so after the run. Before the first record every bit is `U`.
+///
+/// A width of 0 means not yet known; the first value set decides it. Subscribers aren't owned and must unsubscribe
+/// before they die.
+class ValueHistory {
+public:
+    explicit ValueHistory(std::uint32_t width);
+    virtual ~ValueHistory() = default;
+    ValueHistory(const ValueHistory&) = delete;
+    ValueHistory& operator=(const ValueHistory&) = delete;
+
+    /// Tells the subscribers if `value` differs from what the records hold at `time`, then makes the record. Records at
+    /// later times aren't touched. Raises an Error if the width isn't the history's; nothing has happened then.
+    virtual void set(const Value& value, Time time);
+
+    /// The value in force at `time`.
+    virtual Value get(Time time) const;
+
+    /// In bits; 0 if not yet known.
+    virtual std::uint32_t width() const { return width_; }
+
+    std::size_t recordCount() const { return records_.size(); }
+    /// The largest number of the width, (1 << width) - 1 in signed 32 bits.
+    std::int32_t maxNumber() const;
+    /// Forgets all records. Width and subscribers stay.
+    void clear() { records_.clear(); }
+
+    void subscribe(ValueChangeSubscriber* subscriber);
+    void unsubscribe(ValueChangeSubscriber* subscriber);
+
+    // The queries read this history's own records, whatever a derived class answers to get.
+
+    /// One bit that was `L` 1 ns before and is `H`. False for wider signals.
+    bool risingEdgeAt(Time time) const;
+    /// One bit that was `H` 1 ns before and is `L`. False for wider signals.
+    bool fallingEdgeAt(Time time) const;
+    /// The value isn't the one of 1 ns before.
+    bool changedAt(Time time) const;
+    /// Every record from one time to the other, both included and in either order, equals the value in force at the
+    /// earlier one.
+    bool stableBetween(Time t1, Time t2) const;
+    /// The same, and that value is `value`.
+    bool stableAt(Time t1, Time t2, const Value& value) const;
+    /// When the value in force at `time` began; kEarliestTime if it never changed. The first record counts as a change
+    /// unless it is all `U`.
+    Time lastChange(Time time) const;
+
+protected:
+    /// The value that the records hold at `time`.
+    Value recordedValue(Time time) const;
+    /// Decides a width that isn't known yet.
+    void adoptWidth(std::uint32_t width) {
+        if (width_ == 0) width_ = width;
+    }
+
+private:
+    Value valueOfRecord(std::size_t i) const { return Value(records_.lettersOf(i), width_); }
+    bool isOneBitEdge(Time time, char before, char after) const;
+
+    std::uint32_t width_;
+    ValueRecords records_;
+    std::vector<ValueChangeSubscriber*> subscribers_;  ///< not owned, ascending by subscriptionOrder
+};
+
+}  // namespace tarnsim

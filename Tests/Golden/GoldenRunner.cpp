@@ -1,0 +1,174 @@
+// Runs the golden cases: each folder that holds a file `args` is a case. The program is started in the folder with
+// these arguments (as the shell reads them), and what it does is compared with
+//
+//   expected.out   standard output; without the file nothing may be printed
+//   expected.err   error stream, likewise; the single line `(any)` says that it isn't compared
+//   exit           exit status as the shell gives it, 134 for an abort; without the file 0
+//
+// `--approve` writes what the program does into these files, for a person to review as a diff. `--filter=TEXT` runs the
+// cases with TEXT in their path, `--program=FILE` and `--cases=FOLDER` say what to run.
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kAnything = "(any)\n";
+
+/// No case may get lost: the number is raised by hand with every new one.
+constexpr std::size_t kCaseCount = 0;
+
+struct Outcome {
+    std::string output;
+    std::string errors;
+    int status = 0;
+};
+
+struct Options {
+    fs::path program;
+    fs::path cases;
+    std::string filter;
+    bool approve = false;
+};
+
+std::string readAll(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+void writeAll(const fs::path& file, const std::string& text) {
+    std::ofstream(file, std::ios::binary) << text;
+}
+
+std::string quoted(const fs::path& path) {
+    return "'" + path.string() + "'";
+}
+
+std::string trimmedLine(std::string text) {
+    while (!text.empty() && text.back() == '\n') text.pop_back();
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    return text;
+}
+
+Outcome runCase(const fs::path& folder, const fs::path& program, const fs::path& scratch) {
+    const fs::path output = scratch / "out";
+    const fs::path errors = scratch / "err";
+    // In a subshell, so that the shell's own word about an aborted program stays out of the error stream.
+    const std::string command = "cd " + quoted(folder) + " && (" + quoted(program) + " " +
+                                trimmedLine(readAll(folder / "args")) + " </dev/null >" + quoted(output) + " 2>" +
+                                quoted(errors) + ") 2>/dev/null";
+    const int status = std::system(command.c_str());
+    return {readAll(output), readAll(errors), WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status)};
+}
+
+Outcome expectedOf(const fs::path& folder) {
+    const std::string status = readAll(folder / "exit");
+    return {readAll(folder / "expected.out"), readAll(folder / "expected.err"), status.empty() ? 0 : std::stoi(status)};
+}
+
+void showText(const char* title, const std::string& expected, const std::string& actual) {
+    if (expected == actual) return;
+    std::cout << "  --- " << title << " expected ---\n"
+              << expected << "\n  --- " << title << " was ---\n"
+              << actual << "\n";
+}
+
+bool check(const fs::path& folder, const Outcome& actual) {
+    Outcome expected = expectedOf(folder);
+    if (expected.errors == kAnything) expected.errors = actual.errors;
+    if (expected.output == actual.output && expected.errors == actual.errors && expected.status == actual.status)
+        return true;
+    std::cout << "FAILED " << folder.string() << "\n";
+    showText("standard output", expected.output, actual.output);
+    showText("error stream", expected.errors, actual.errors);
+    if (expected.status != actual.status) {
+        std::cout << "  exit status expected " << expected.status << ", was " << actual.status << "\n";
+    }
+    return false;
+}
+
+/// An empty text stands in no file.
+void approveFile(const fs::path& file, const std::string& text) {
+    if (text.empty()) {
+        fs::remove(file);
+    } else {
+        writeAll(file, text);
+    }
+}
+
+void approve(const fs::path& folder, const Outcome& actual) {
+    approveFile(folder / "expected.out", actual.output);
+    if (expectedOf(folder).errors != kAnything) approveFile(folder / "expected.err", actual.errors);
+    approveFile(folder / "exit", actual.status == 0 ? "" : std::to_string(actual.status) + "\n");
+}
+
+bool takeValue(const std::string& argument, const std::string& name, std::string& value) {
+    if (!argument.starts_with(name)) return false;
+    value = argument.substr(name.size());
+    return true;
+}
+
+Options readOptions(int argc, char** argv) {
+    Options options;
+    for (int i = 1; i < argc; ++i) {
+        const std::string argument = argv[i];
+        std::string path;
+        if (takeValue(argument, "--program=", path)) {
+            options.program = fs::absolute(path);
+        } else if (takeValue(argument, "--cases=", path)) {
+            options.cases = fs::absolute(path);
+        } else if (argument == "--approve") {
+            options.approve = true;
+        } else if (!takeValue(argument, "--filter=", options.filter)) {
+            std::cerr << "Unknown argument: " << argument << "\n";
+            std::exit(2);
+        }
+    }
+    return options;
+}
+
+std::vector<fs::path> findCases(const fs::path& root) {
+    std::vector<fs::path> folders;
+    for (const auto& entry : fs::recursive_directory_iterator(root)) {
+        if (entry.path().filename() == "args") folders.push_back(entry.path().parent_path());
+    }
+    std::sort(folders.begin(), folders.end());
+    return folders;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const Options options = readOptions(argc, argv);
+    std::string pattern = (fs::temp_directory_path() / "tarnsim-golden-XXXXXX").string();
+    const fs::path scratch = mkdtemp(pattern.data());
+
+    const std::vector<fs::path> folders = findCases(options.cases);
+    std::size_t failed = 0;
+    std::size_t passed = 0;
+    for (const fs::path& folder : folders) {
+        if (folder.string().find(options.filter) == std::string::npos) continue;
+        const Outcome actual = runCase(folder, options.program, scratch);
+        if (options.approve) approve(folder, actual);
+        check(folder, actual) ? ++passed : ++failed;
+    }
+    fs::remove_all(scratch);
+    if (folders.size() != kCaseCount) {
+        std::cout << "FAILED: found " << folders.size() << " cases, but there should be " << kCaseCount << "\n";
+        ++failed;
+    }
+    std::cout << passed << " passed, " << failed << " failed\n";
+    return failed == 0 ? 0 : 1;
+}
