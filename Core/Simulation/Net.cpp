@@ -1,6 +1,7 @@
 #include "Core/Simulation/Net.h"
 
 #include <algorithm>
+#include <forward_list>
 #include <stdexcept>
 
 #include "Core/Simulation/NetResolver.h"
@@ -10,30 +11,76 @@
 
 namespace tarnsim {
 
-/// Thrown when a value comes back to a net that is still passing it on, and collects the nets on the way out to there.
-struct Net::Ring {
-    const Net* closing;
-    std::vector<std::string> names;  ///< innermost first
-};
-
-/// Stands on the stack while a net is updated, so that the net knows itself when the same update reaches it again. A
-/// deep chain of nets that meets each one once is no ring, however long it is.
-class Net::UpdateInProgress {
+/// One net in the middle of its update. Updates form a chain from the net that was set to the innermost one; they are
+/// kept in a list and not on the stack, so that a value passes through as many levels of hierarchy as there are.
+///
+/// A net knows the updates that are under way on it. If a value reaches it again for the same time, it would go round
+/// for ever; a deep chain of nets that meets each one once is no such ring, however long it is.
+class Net::Update {
 public:
-    UpdateInProgress(Net& net, Time time) : net_(net), time_(time), outer_(net.updates_) {
-        for (const UpdateInProgress* each = outer_; each != nullptr; each = each->outer_) {
-            if (each->time_ == time) throw Ring{&net, {}};
+    /// `caller` is the update that leads here; null for the first one.
+    Update(Net& net, Time time, const NetSet& visited, Update* caller)
+        : net_(net), time_(time), visited_(visited), caller_(caller), outer_(net.updates_) {
+        for (const Update* each = outer_; each != nullptr; each = each->outer_) {
+            if (each->time_ == time) throw Error(ringMessage());
         }
-        net.updates_ = this;
+        net_.updates_ = this;
     }
-    ~UpdateInProgress() { net_.updates_ = outer_; }
-    UpdateInProgress(const UpdateInProgress&) = delete;
-    UpdateInProgress& operator=(const UpdateInProgress&) = delete;
+    ~Update() { net_.updates_ = outer_; }
+    Update(const Update&) = delete;
+    Update& operator=(const Update&) = delete;
+
+    Update* caller() const { return caller_; }
+    /// The nets that the update of the net given by `advance` mustn't go back to.
+    const NetSet& visitedForNext() const { return isFollowing_ ? kNone : visited_; }
+
+    void resolve() {
+        value_ = NetResolver::resolve(net_, time_);
+        net_.set(value_, time_);
+    }
+
+    /// Passes the value on until another net has to be updated first, and gives that net; null when all is done. First
+    /// come the nets joined by Inouts, then the ports that follow.
+    Net* advance() {
+        while (nextJoin_ < net_.ports_.size()) {
+            const Port& port = *net_.ports_[nextJoin_++];
+            if (port.direction() != Direction::Inout) continue;
+            visited_.insert(&net_);
+            Net* other = net_.otherNet(port);
+            if (other != nullptr && !visited_.contains(other)) return other;
+        }
+        isFollowing_ = true;
+        while (nextFollower_ < net_.ports_.size()) {
+            Port& port = *net_.ports_[nextFollower_++];
+            if (!net_.isFollower(port)) continue;
+            if (Net* farNet = port.record(value_, time_)) return farNet;
+        }
+        return nullptr;
+    }
 
 private:
+    std::string ringMessage() const {
+        std::string names = "'" + net_.getName() + "'";
+        for (const Update* each = caller_; each != nullptr; each = each->caller_) {
+            names.insert(0, "'" + each->net_.getName() + "' -> ");
+            if (&each->net_ == &net_) break;
+        }
+        return "Error: a value comes back to the net that it left, through units that connect an input straight to an "
+               "output: " +
+               names + ".";
+    }
+
+    inline static const NetSet kNone;
+
     Net& net_;
     Time time_;
-    const UpdateInProgress* outer_;  ///< an update of the same net for another time
+    NetSet visited_;  ///< nets joined by Inouts on the way here
+    Update* caller_;
+    const Update* outer_;  ///< the update of the same net, for another time, that this one stands in
+    Value value_;
+    std::size_t nextJoin_ = 0;      ///< port to look at next for joined nets
+    std::size_t nextFollower_ = 0;  ///< and for followers
+    bool isFollowing_ = false;
 };
 
 Net::Net(std::uint32_t width) : Net("", width) {}
@@ -160,45 +207,17 @@ Value Net::driveValue(Time time) const {
 }
 
 void Net::update(Time time, const NetSet& visited) {
-    try {
-        const UpdateInProgress inProgress(*this, time);
-        const Value value = NetResolver::resolve(*this, time);
-        set(value, time);
-        passOn(value, time, visited);
-    } catch (Ring& ring) {
-        // The first one to catch it is the net that refused to be entered, before its own update began anew.
-        const bool isClosed = ring.closing == this && !ring.names.empty();
-        if (!isClosed) {
-            ring.names.push_back("'" + getName() + "'");
-            throw;
+    Update first(*this, time, visited, nullptr);
+    first.resolve();
+    std::forward_list<Update> deeper;  // innermost in front
+    for (Update* current = &first; current != nullptr;) {
+        if (Net* next = current->advance()) {
+            current = &deeper.emplace_front(*next, time, current->visitedForNext(), current);
+            current->resolve();
+        } else {
+            current = current->caller();
+            if (!deeper.empty()) deeper.pop_front();
         }
-        std::string names = ring.names.front();
-        for (auto name = ring.names.rbegin(); name != ring.names.rend(); ++name) names += " -> " + *name;
-        throw Error(
-            "Error: a value comes back to the net that it left, through units that connect an input straight to an "
-            "output: " +
-            names + ".");
-    }
-}
-
-void Net::passOn(const Value& value, Time time, const NetSet& visited) {
-    updateJoinedNets(time, visited);
-    // By number, as a subscriber may attach a port.
-    for (std::size_t i = 0; i < ports_.size(); ++i) {
-        if (isFollower(*ports_[i])) ports_[i]->set(value, time);
-    }
-}
-
-void Net::updateJoinedNets(Time time, const NetSet& visited) {
-    NetSet reached;
-    for (std::size_t i = 0; i < ports_.size(); ++i) {
-        if (ports_[i]->direction() != Direction::Inout) continue;
-        if (reached.empty()) {
-            reached = visited;
-            reached.insert(this);
-        }
-        Net* other = otherNet(*ports_[i]);
-        if (other != nullptr && !reached.contains(other)) other->update(time, reached);
     }
 }
 

@@ -82,19 +82,16 @@ public:
     void dump() const;
 
 private:
-    class UpdateInProgress;
-    struct Ring;
+    class Update;
 
     void checkSideIsFree(const Port& port, int side) const;
-    void passOn(const Value& value, Time time, const NetSet& visited);
-    void updateJoinedNets(Time time, const NetSet& visited);
     /// Clears every side on which the port points here.
     void letGo(Port& port) const;
 
     std::vector<Port*> ports_;                                  ///< not owned
     std::unordered_map<const Port*, const PinSpec*> pinSpecs_;  ///< ports attached to a part of the net
     std::vector<std::unique_ptr<PinSpec>> ownedPinSpecs_;       ///< those that this net made itself
-    const UpdateInProgress* updates_ = nullptr;                 ///< the updates of this net that are on the stack
+    const Update* updates_ = nullptr;                           ///< what is under way on this net, innermost first
 };
 
 /// Makes nets and owns them.

@@ -24,9 +24,12 @@ Port::~Port() {
 }
 
 void Port::set(const Value& value, Time time) {
+    if (Net* farNet = record(value, time)) farNet->update(time);
+}
+
+Net* Port::record(const Value& value, Time time) {
     ValueHistory::set(value, time);
-    Net* farNet = direction_ == Direction::Output ? outsideNet_ : insideNet_;
-    if (farNet != nullptr) farNet->update(time);
+    return direction_ == Direction::Output ? outsideNet_ : insideNet_;
 }
 
 Value Port::get(Time time) const {

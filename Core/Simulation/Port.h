@@ -39,6 +39,10 @@ public:
     /// outside net of an Output, the inside net of an Input or Inout. Returns when everything reached has its value.
     void set(const Value& value, Time time) override;
 
+    /// The first half of `set`: records the value and gives the net on the far side, which has to resolve next; null if
+    /// there is none. For nets, which go through a hierarchy of any depth by themselves.
+    Net* record(const Value& value, Time time);
+
     /// The value as the port's reader sees it: an Input reads its outside net, an Output its inside net, and without
     /// such a net its own records. An Inout between two nets reads `U` unless they agree; with one net it reads that
     /// net, but inside its own records if it has any. Unless ztrOff, a `Z` read through a net or by an Inout is `U`.
