@@ -33,30 +33,33 @@ CircuitVerifier::CircuitVerifier(const std::string& circuitFile, const std::stri
     const CircuitSpec spec(circuitFile);
     ownSequence_ = std::make_unique<TestSequence>(ioFile);
     sequence_ = ownSequence_.get();
-    circuit_ = keepToTheEnd(std::make_unique<Circuit>(spec.getName(), nullptr));
-    circuit_->setSpec(spec);
-    setUp();
+    Circuit* circuit = keepToTheEnd(std::make_unique<Circuit>(spec.getName(), nullptr));
+    circuit->setSpec(spec);
+    setUp(circuit);
 }
 
 CircuitVerifier::CircuitVerifier(Circuit* circuit, TestSequence* sequence, bool verify)
-    : circuit_(circuit), sequence_(sequence), verifyOutputs_(verify) {
-    setUp();
+    : sequence_(sequence), verifyOutputs_(verify) {
+    setUp(circuit);
 }
 
-CircuitVerifier::~CircuitVerifier() {
-    // The circuit outlives the simulator and mustn't name it any longer.
-    if (simulator_ && circuit_->findSimulator() == simulator_.get()) circuit_->setSimulator(nullptr);
+CircuitVerifier::~CircuitVerifier() = default;
+
+void CircuitVerifier::DeleteSimulator::operator()(EventSimulator* simulator) const {
+    Circuit* circuit = simulator->getCircuit();
+    if (circuit->findSimulator() == simulator) circuit->setSimulator(nullptr);
+    delete simulator;
 }
 
-void CircuitVerifier::setUp() {
-    simulator_ = std::make_unique<EventSimulator>(circuit_);
-    const TestVectorHeader* header = sequence_->header();
-    for (int i = 0; i < header->inputCount(); ++i) registerInput(header->inputName(i));
+void CircuitVerifier::setUp(Circuit* circuit) {
+    circuit_ = circuit;
+    simulator_.reset(new EventSimulator(circuit_));
+    for (const std::string& name : inputNames()) registerInput(name);
     for (const auto& assignment : sequence_->assignments()) registerInput(assignment->name());
     endTime_ = sequence_->lastEndTime();
     simulator_->prepare(endTime_);
     for (const auto& vector : sequence_->vectors()) applyVector(*vector);
-    for (const auto& assignment : sequence_->assignments()) applyAssignment(assignment->name(), assignment->value());
+    for (const auto& assignment : sequence_->assignments()) applyAssignment(*assignment);
 }
 
 void CircuitVerifier::registerInput(const std::string& name) {
@@ -69,17 +72,18 @@ void CircuitVerifier::registerInput(const std::string& name) {
 }
 
 void CircuitVerifier::applyVector(const TestVector& vector) {
-    const TestVectorHeader* header = sequence_->header();
-    for (int i = 0; i < header->inputCount(); ++i) {
-        const std::string name = header->inputName(i);
+    const std::vector<std::string> names = inputNames();
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const int column = static_cast<int>(i) + 2;
         const auto raise = [&](const std::string& reason) {
-            throw Error(format("Error when initializing input '%s' at time = %d (column %d in '%s'): ", name.c_str(),
-                               vector.time(), i + 2, sequence_->fileName().c_str()) +
+            throw Error(format("Error when initializing input '%s' at time = %d (column %d in '%s'): ",
+                               names[i].c_str(), vector.time(), column, sequence_->fileName().c_str()) +
                         reason);
         };
         // The one place where what a Value refuses becomes a message about the file.
         try {
-            applyInput(name, vector.input(i), vector.time());
+            Port* port = inputPorts_.at(names[i]);
+            port->set(Value(normalize(*port, vector.input(static_cast<int>(i)))), vector.time());
         } catch (const Error& error) {
             raise(error.what());
         } catch (const std::exception& error) {
@@ -94,16 +98,30 @@ void CircuitVerifier::applyVector(const TestVector& vector) {
     }
 }
 
-void CircuitVerifier::applyInput(const std::string& name, const std::string& text, Time time) {
-    Port* port = inputPorts_.at(name);
-    port->set(Value(normalizedStimulus(text, port->width())), time);
+std::string CircuitVerifier::normalize(const Port& port, const std::string& text) {
+    std::string bits = trimmed(text);
+    if (isHexText(bits)) bits = Value::hexToBits(bits);
+    const std::size_t size = port.width();
+    if (bits.size() >= size) return bits.substr(bits.size() - size);
+    const bool isDefined = std::ranges::none_of(bits, isUndefinedLetter);
+    return std::string(size - bits.size(), isDefined ? 'L' : 'U') + bits;
 }
 
-void CircuitVerifier::applyAssignment(const std::string& name, const std::string& text) {
-    Port* port = inputPorts_.at(name);
+void CircuitVerifier::applyAssignment(const PortAssignment& assignment) {
+    Port* port = inputPorts_.at(assignment.name());
     Value value(port->width());
-    value.setHex(text);
+    value.setHex(assignment.value());
     port->set(value, 0);
+}
+
+std::vector<std::string> CircuitVerifier::inputNames() const {
+    const TestVectorHeader* header = sequence_->header();
+    return header == nullptr ? std::vector<std::string>() : header->inputNames();
+}
+
+std::vector<std::string> CircuitVerifier::outputNames() const {
+    const TestVectorHeader* header = sequence_->header();
+    return header == nullptr ? std::vector<std::string>() : header->outputNames();
 }
 
 void CircuitVerifier::checkConnections() const {
@@ -144,25 +162,23 @@ bool CircuitVerifier::runAndVerify() {
     run();
     failures_ = 0;
     if (!verifyOutputs_) return true;
-    const ExpectedOutputs expectations(*sequence_);
-    const TestVectorHeader* header = sequence_->header();
+    expectations_ = std::make_unique<ExpectedOutputs>(*sequence_);
+    const std::vector<std::string> outputs = outputNames();
     for (const auto& vector : sequence_->vectors()) {
-        for (int i = 0; i < header->outputCount(); ++i) checkOutput(expectations, header->outputName(i), *vector);
+        for (const std::string& name : outputs) checkOutput(name, *vector);
     }
     return failures_ == 0;
 }
 
-void CircuitVerifier::checkOutput(const ExpectedOutputs& expectations, const std::string& name,
-                                  const TestVector& vector) {
+void CircuitVerifier::checkOutput(const std::string& name, const TestVector& vector) {
     const Port* port = simulator_->getCircuit()->findPort(name);
     if (port == nullptr) throw Error("No such output: '%s'", name.c_str());
-    compare(expectations, *port, vector.endTime(), name);
+    compare(*port, vector.endTime(), name);
 }
 
-void CircuitVerifier::compare(const ExpectedOutputs& expectations, const Port& port, Time time,
-                              const std::string& name) {
+void CircuitVerifier::compare(const Port& port, Time time, const std::string& name) {
     const Value actual = port.get(time);
-    std::string expected = Value::hexToBits(expectations.at(name, time));
+    std::string expected = Value::hexToBits(expectations_->at(name, time));
     if (expected.size() > actual.width()) expected.erase(0, expected.size() - actual.width());
     if (actual.matches(expected)) return;
     ++failures_;
@@ -170,11 +186,8 @@ void CircuitVerifier::compare(const ExpectedOutputs& expectations, const Port& p
 }
 
 void CircuitVerifier::printResults(std::int32_t resolution, const std::string& pins, const std::string& nets) {
-    const TestVectorHeader* header = sequence_->header();
-    std::vector<std::string> inputs;
-    for (int i = 0; i < header->inputCount(); ++i) inputs.push_back(header->inputName(i));
-    std::vector<std::string> outputs;
-    for (int i = 0; i < header->outputCount(); ++i) outputs.push_back(header->outputName(i));
+    const std::vector<std::string> inputs = inputNames();
+    std::vector<std::string> outputs = outputNames();
     std::ranges::copy(splitNames(pins), std::back_inserter(outputs));
 
     if (resolution >= 1) {
@@ -184,14 +197,6 @@ void CircuitVerifier::printResults(std::int32_t resolution, const std::string& p
     std::vector<Time> times;
     for (const auto& vector : sequence_->vectors()) times.push_back(vector->time());
     simulator_->printAt(inputs, outputs, splitNames(nets), times);
-}
-
-std::string normalizedStimulus(const std::string& text, std::uint32_t size) {
-    std::string bits = trimmed(text);
-    if (isHexText(bits)) bits = Value::hexToBits(bits);
-    if (bits.size() >= size) return bits.substr(bits.size() - size);
-    const bool isDefined = std::ranges::none_of(bits, isUndefinedLetter);
-    return std::string(size - bits.size(), isDefined ? 'L' : 'U') + bits;
 }
 
 }  // namespace tarnsim

@@ -17,6 +17,7 @@ class Component;
 class EventSimulator;
 class ExpectedOutputs;
 class Port;
+class PortAssignment;
 class TestSequence;
 class TestVector;
 
@@ -50,38 +51,44 @@ public:
     /// The last sample's time; the run goes 1 ns further.
     Time getEndTime() const { return endTime_; }
     void setEndTime(Time time) { endTime_ = time; }
+    /// A stimulus of the signal file as `port` takes it: trimmed, hexadecimal digits written out if there is nothing
+    /// else in it, the high end cut off, or filled up with `L`, or with `U` if the text isn't fully defined.
+    static std::string normalize(const Port& port, const std::string& text);
+
     Circuit* getCircuit() const { return circuit_; }
     EventSimulator* getSimulator() const { return simulator_.get(); }
 
 private:
+    /// The circuit outlives its simulator and mustn't name it any longer.
+    struct DeleteSimulator {
+        void operator()(EventSimulator* simulator) const;
+    };
+
     /// `name` was expected to show one value at `time` and shows another one.
     virtual void reportMismatch(Time time, const std::string& name, const Value& expected, const Value& actual) = 0;
 
-    void setUp();
+    void setUp(Circuit* circuit);
     void registerInput(const std::string& name);
     void applyVector(const TestVector& vector);
-    void applyInput(const std::string& name, const std::string& text, Time time);
-    void applyAssignment(const std::string& name, const std::string& value);
+    void applyAssignment(const PortAssignment& assignment);
     void applyOptions();
     void restoreParameters();
     Component* requireComponent(const std::string& name) const;
-    void checkOutput(const ExpectedOutputs& expectations, const std::string& name, const TestVector& vector);
-    void compare(const ExpectedOutputs& expectations, const Port& port, Time time, const std::string& name);
+    void checkOutput(const std::string& name, const TestVector& vector);
+    void compare(const Port& port, Time time, const std::string& name);
+    std::vector<std::string> inputNames() const;
+    std::vector<std::string> outputNames() const;
 
     Time endTime_ = 0;
     std::uint32_t failures_ = 0;
     Circuit* circuit_ = nullptr;        ///< not owned
     TestSequence* sequence_ = nullptr;  ///< not owned here
-    std::unique_ptr<EventSimulator> simulator_;
+    std::unique_ptr<EventSimulator, DeleteSimulator> simulator_;
     std::map<std::string, Port*> inputPorts_;    ///< what the test drives, by the names of the test file
     std::unique_ptr<TestSequence> ownSequence_;  ///< the one that was loaded here
     bool verifyOutputs_ = true;
+    std::unique_ptr<ExpectedOutputs> expectations_;        ///< while outputs are compared
     std::map<const Component*, ParaMap> savedParameters_;  ///< of components with options, during a run
 };
-
-/// The stimulus `text` of a signal file as a port of `size` bits takes it: trimmed, hexadecimal digits written out if
-/// there is nothing else in it, the high end cut off, or filled up with `L`, or with `U` if the text isn't fully
-/// defined.
-std::string normalizedStimulus(const std::string& text, std::uint32_t size);
 
 }  // namespace tarnsim

@@ -229,8 +229,7 @@ std::vector<Net*> Circuit::collectNets(const std::vector<Port*>& ports) const {
         if (Net* net = port->getNet(sideTowards(*this, port))) found.push_back(net);
     }
     std::ranges::sort(found, {}, &Net::getCreationNumber);
-    const auto repeated = std::ranges::unique(found);
-    found.erase(repeated.begin(), repeated.end());
+    found.erase(std::unique(found.begin(), found.end()), found.end());
     return found;
 }
 
@@ -242,7 +241,7 @@ Net* Circuit::mergeNets(const std::vector<Net*>& nets, const std::string& name) 
 }
 
 void Circuit::addNet(Net* net, const std::string& name) {
-    if (net == nullptr) throw Error("Internal error: net is NULL in ..\\..\\Core\\Circuit\\Circuit.cpp:339");
+    if (net == nullptr) throw Error(R"(Internal error: net is NULL in ..\..\Core\Circuit\Circuit.cpp:339)");
     const std::string& freeName = name.empty() ? net->getName() : name;
     if (hasNet(freeName)) {
         throw Error("Error: There is already a net called '%s' in circuit '%s'/'%s'. ", freeName.c_str(),
@@ -252,15 +251,15 @@ void Circuit::addNet(Net* net, const std::string& name) {
 }
 
 void Circuit::replaceNet(Net* oldNet, Net* newNet) {
-    if (oldNet == nullptr) throw Error("Internal error: old_net is NULL in ..\\..\\Core\\Circuit\\Circuit.cpp:963");
-    if (newNet == nullptr) throw Error("Internal error: new_net is NULL in ..\\..\\Core\\Circuit\\Circuit.cpp:964");
+    if (oldNet == nullptr) throw Error(R"(Internal error: old_net is NULL in ..\..\Core\Circuit\Circuit.cpp:963)");
+    if (newNet == nullptr) throw Error(R"(Internal error: new_net is NULL in ..\..\Core\Circuit\Circuit.cpp:964)");
     nets_.remove(oldNet);
     if (!nets_.contains(newNet)) nets_.append(newNet);
     newNet->setName(oldNet->getName());
 }
 
 void Circuit::renameNet(Net* net, const std::string& name) {
-    if (net == nullptr) throw Error("Internal error: net is NULL in ..\\..\\Core\\Circuit\\Circuit.cpp:945");
+    if (net == nullptr) throw Error(R"(Internal error: net is NULL in ..\..\Core\Circuit\Circuit.cpp:945)");
     net->setName(name);
 }
 

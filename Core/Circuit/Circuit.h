@@ -156,6 +156,8 @@ public:
     /// The comment in front of the unit is a component's own.
     using Component::getComment;
 
+    using Component::addPort;
+
     // Import paths, sorted; "./" is always one of them at first.
 
     /// A path below the directory of this circuit's file is kept relative to it.
@@ -221,9 +223,9 @@ private:
 
     void buildFromSpec(const CircuitSpec& spec);
     void addUnit(const UnitLine& line);
-    void addPortsOf(const PortLine& line);
-    void addPinsOf(const PinLine& line);
-    void addNetOf(const NetLine& line);
+    void addPort(const PortLine& line);
+    void addPin(const PinLine& line);
+    void addNet(const NetLine& line);
     Component* makeUnit(const UnitLine& line, const std::string& name);
     Port* makePort(const std::string& text, std::uint32_t size, Direction direction, const Line& line);
     Port* makePin(const std::string& text, Direction direction, const Line& line);

@@ -70,9 +70,9 @@ void Circuit::setSpec(const CircuitSpec& spec) {
 void Circuit::buildFromSpec(const CircuitSpec& spec) {
     for (const auto& subSpec : spec.subSpecs) addDeclaration(*subSpec);
     for (const UnitLine& line : spec.unitLines) addUnit(line);
-    for (const PortLine& line : spec.portLines) addPortsOf(line);
-    for (const PinLine& line : spec.pinLines) addPinsOf(line);
-    for (const NetLine& line : spec.netLines) addNetOf(line);
+    for (const PortLine& line : spec.portLines) addPort(line);
+    for (const PinLine& line : spec.pinLines) addPin(line);
+    for (const NetLine& line : spec.netLines) addNet(line);
     for (const MetaDataLine& line : spec.metaDataLines) addMetaData(line.key, line.value);
     for (const std::string& path : spec.importPaths) addImportPath(path);
     for (const std::string& comment : spec.freeComments) addComment(comment);
@@ -99,7 +99,7 @@ Component* Circuit::makeUnit(const UnitLine& line, const std::string& name) {
     return clone;
 }
 
-void Circuit::addPortsOf(const PortLine& line) {
+void Circuit::addPort(const PortLine& line) {
     // The line has made sure that this is a number; one beyond 32 bits is refused by stoi itself.
     const int size = std::stoi(line.size);
     if (size < 0) {
@@ -121,7 +121,7 @@ Port* Circuit::makePort(const std::string& text, std::uint32_t size, Direction d
     return made;
 }
 
-void Circuit::addPinsOf(const PinLine& line) {
+void Circuit::addPin(const PinLine& line) {
     const Direction direction = readDirection(line.direction, "pin", line);
     CommentForTheFirst comment(line);
     for (const std::string& text : line.names) comment.giveTo(*makePin(text, direction, line));
@@ -136,7 +136,7 @@ Port* Circuit::makePin(const std::string& text, Direction direction, const Line&
     return made;
 }
 
-void Circuit::addNetOf(const NetLine& line) {
+void Circuit::addNet(const NetLine& line) {
     std::vector<Port*> ports;
     ports.reserve(line.ports.size());
     for (const std::string& path : line.ports) ports.push_back(requirePort(path, line));

@@ -176,10 +176,10 @@ std::string CircuitSpec::quotedValue(const std::string& line) const {
 }
 
 std::string CircuitSpec::relativeToCurrent(const std::string& name) const {
-    const std::string path = inDirectoryOf(current_->fileName_, name);
+    std::string path = inDirectoryOf(current_->fileName_, name);
     if (!current_->isInline() || fileExists(path)) return path;
     // An inline body has no file of its own, but its designer looks from the file that it stands in.
-    const std::string nearby = inDirectoryOf(current_->getFileName(), name);
+    std::string nearby = inDirectoryOf(current_->getFileName(), name);
     return fileExists(nearby) ? nearby : path;
 }
 
@@ -187,7 +187,8 @@ std::string CircuitSpec::resolveFile(const std::string& path) const {
     if (fileExists(path)) return path;
     const std::string name = std::filesystem::path(path).filename().string();
     for (const std::string& directory : importPaths) {
-        const std::string candidate = directory + "/" + name;
+        std::string candidate = directory;
+        candidate.append("/").append(name);
         if (fileExists(candidate)) return candidate;
     }
     return path;

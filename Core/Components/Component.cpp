@@ -61,7 +61,7 @@ std::string Component::getDescription() const {
 }
 
 void Component::addPort(Port* port) {
-    if (port == nullptr) throw Error("Internal error: port is NULL in ..\\..\\Core\\Components\\Component.cpp:121");
+    if (port == nullptr) throw Error(R"(Internal error: port is NULL in ..\..\Core\Components\Component.cpp:121)");
     ports_.append(port);
     if (port->direction() == Direction::Input) port->subscribe(this);
 }

@@ -25,8 +25,7 @@ std::span<const Event> EventSet::takeAll() {
     entered_.clear();
     known_.reset();
     std::ranges::sort(taken_, comesBefore);
-    const auto repeated = std::ranges::unique(taken_);
-    taken_.erase(repeated.begin(), repeated.end());
+    taken_.erase(std::unique(taken_.begin(), taken_.end()), taken_.end());
     return taken_;
 }
 

@@ -111,6 +111,7 @@ void EventSimulator::printRow(const Table& table, Time time) {
 
 void EventSimulator::printEvery(const std::vector<std::string>& inputs, const std::vector<std::string>& outputs,
                                 const std::vector<std::string>& nets, Time step) {
+    if (step < 1) throw Error("Error: a table needs a time step above 0, not %d.", step);
     const Table table = makeTable(inputs, outputs, nets);
     printedRows_ = 0;
     for (std::int64_t stop = 0; stop <= endTime_; stop += step) printRow(table, static_cast<Time>(stop));

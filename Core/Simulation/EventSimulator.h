@@ -49,7 +49,7 @@ public:
     // The table of results, on the standard output: a line for each stop, with the ports named by `inputs` and
     // `outputs` (paths through the hierarchy), then the nets. Raises an Error for a name that isn't there.
 
-    /// Stops at 0, `step`, 2 * `step` and so on, up to the end of the run. REQUIRES: step > 0.
+    /// Stops at 0, `step`, 2 * `step` and so on, up to the end of the run.
     void printEvery(const std::vector<std::string>& inputs, const std::vector<std::string>& outputs,
                     const std::vector<std::string>& nets, Time step);
     void printAt(const std::vector<std::string>& inputs, const std::vector<std::string>& outputs,

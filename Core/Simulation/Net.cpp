@@ -192,9 +192,9 @@ Net* Net::otherNet(const Port& port) const {
 }
 
 Value Net::valueFor(Time time, const Port* port) const {
-    const Value full = get(time);
     const PinSpec* spec = port == nullptr ? nullptr : findPinSpec(port);
-    if (spec == nullptr) return full;
+    if (spec == nullptr) return get(time);
+    const Value full = get(time);
     Value seen(port->width());
     for (std::size_t i = 0; i < port->width(); ++i) {
         seen[i] = full[static_cast<std::size_t>(spec->bitAt(i))];

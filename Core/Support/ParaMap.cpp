@@ -51,7 +51,7 @@ std::string ParaMap::toStringExcept(const ParaMap& defaults) const {
     std::string text;
     for (const auto& [key, value] : params_) {
         if (defaults.has(key) && defaults.at(key) == value) continue;
-        text += (text.empty() ? "(" : ",") + key + "=" + value;
+        text.append(text.empty() ? "(" : ",").append(key).append("=").append(value);
     }
     return text.empty() ? "" : text + ")";
 }

@@ -140,10 +140,10 @@ std::uint32_t readDigits(std::string_view digits, unsigned base) {
 
 /// One way of writing a number: what stands in front of its digits, and which digits there are.
 struct NumberForm {
-    char first;   ///< first character of the prefix, 0 for none
-    char second;  ///< second one in lower case, 0 for none
     bool (*digit)(char);
     unsigned base;
+    char first;   ///< first character of the prefix, 0 for none
+    char second;  ///< second one in lower case, 0 for none
 };
 
 constexpr bool isBinaryDigit(char c) {
@@ -151,7 +151,7 @@ constexpr bool isBinaryDigit(char c) {
 }
 
 constexpr NumberForm kNumberForms[] = {
-    {'0', 'x', isHexDigit, 16}, {'$', 0, isHexDigit, 16}, {'0', 'b', isBinaryDigit, 2}, {0, 0, isDigit, 10}};
+    {isHexDigit, 16, '0', 'x'}, {isHexDigit, 16, '$', 0}, {isBinaryDigit, 2, '0', 'b'}, {isDigit, 10, 0, 0}};
 
 /// The first run of digits in `text` that stands behind the form's prefix; empty if there is none.
 std::string_view findDigits(std::string_view text, const NumberForm& form) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <utility>
+#include <algorithm>
 #include <vector>
 
 #include "Core/TestVectors/TestColumn.h"
@@ -36,7 +36,7 @@ struct ColumnPlace {
     /// Swaps the column with the one `step` further on, if both are there.
     void swapWithNeighbour(int step) const {
         if (!hasPosition(list, position) || !hasPosition(list, position + step)) return;
-        std::swap(list[static_cast<std::size_t>(position)], list[static_cast<std::size_t>(position + step)]);
+        std::iter_swap(list.begin() + position, list.begin() + position + step);
     }
 
 private:

@@ -33,7 +33,9 @@ void ComponentOptions::parseOptions(const std::string& text) {
 
 std::string ComponentOptions::toString() const {
     std::string text;
-    for (const auto& [key, value] : options_) text += (text.empty() ? "" : ",") + key + "=" + value;
+    for (const auto& [key, value] : options_) {
+        text.append(text.empty() ? "" : ",").append(key).append("=").append(value);
+    }
     return text;
 }
 

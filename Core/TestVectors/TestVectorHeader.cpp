@@ -15,6 +15,13 @@ const TestColumn& columnAt(const ColumnList& list, int i) {
     return hasPosition(list, i) ? list[static_cast<std::size_t>(i)] : kNone;
 }
 
+std::vector<std::string> namesOf(const ColumnList& list) {
+    std::vector<std::string> names;
+    names.reserve(list.size());
+    for (const TestColumn& column : list) names.push_back(column.value);
+    return names;
+}
+
 void rename(ColumnList& list, int i, const std::string& name) {
     if (hasPosition(list, i)) list[static_cast<std::size_t>(i)].value = name;
 }
@@ -40,6 +47,14 @@ TestVectorHeader::TestVectorHeader(std::vector<std::string> words, int lineNumbe
         }
     }
     if (lineNumber >= 0 && inputColumns_.empty()) throw Error("Error on line %d: No inputs defined.", lineNumber);
+}
+
+std::vector<std::string> TestVectorHeader::inputNames() const {
+    return namesOf(inputColumns_);
+}
+
+std::vector<std::string> TestVectorHeader::outputNames() const {
+    return namesOf(outputColumns_);
 }
 
 std::string TestVectorHeader::inputName(int i) const {

@@ -30,6 +30,9 @@ public:
     /// How many words a vector has behind its time.
     int fieldsPerVector() const { return inputCount() + outputCount() + (hasDeltaTime_ ? 1 : 0); }
 
+    std::vector<std::string> inputNames() const;
+    std::vector<std::string> outputNames() const;
+
     // By position among the inputs or outputs, from 0. Empty where there is no such column.
 
     std::string inputName(int i) const;

@@ -84,7 +84,8 @@ Time ValueHistory::lastChange(Time time) const {
     std::size_t began = *inForce;
     while (began > 0 && records_.lettersOf(began - 1) == current) --began;
     // Before the first record lies U, so a signal that began with U never changed.
-    if (began == 0 && Value(width_) == current) return kEarliestTime;
+    const bool beganUndefined = current.find_first_not_of(kUndefinedBit) == std::string_view::npos;
+    if (began == 0 && beganUndefined) return kEarliestTime;
     return records_.timeOf(began);
 }
 
