@@ -137,6 +137,7 @@ TEST(Stimulus, WhateverIsThrownWhileItIsAppliedBecomesAMessageAboutTheFile) {
     EXPECT_EQ(messageOf([] { throw std::out_of_range("out of range"); }), "out of range");
     EXPECT_EQ(messageOf([] { throw std::bad_cast(); }), std::bad_cast().what());
     EXPECT_EQ(messageOf([] { throw std::string("a string"); }), "a string");
+    EXPECT_EQ(messageOf([] { throw "characters"; }), "characters");
     EXPECT_EQ(messageOf([] { throw 5; }), "Unknown exception thrown.");
 }
 

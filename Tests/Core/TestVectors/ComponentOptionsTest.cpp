@@ -47,6 +47,11 @@ TEST(ComponentOptions, AnItemHasOneEqualSign) {
     EXPECT_EQ(errorOf([] { ComponentOptions("U1(b, a==2)", ""); }), "Too many equal signs in options string: ' a==2'");
 }
 
+TEST(ComponentOptions, AnItemInFrontOfACommaIsNotEmpty) {
+    EXPECT_EQ(errorOf([] { ComponentOptions("U1(a=1,,b=2)", ""); }), "Empty item in options string: 'a=1,,b=2'");
+    EXPECT_EQ(errorOf([] { ComponentOptions("U1(,)", ""); }), "Empty item in options string: ','");
+}
+
 TEST(ComponentOptions, ParsingAddsToTheMap) {
     ComponentOptions options("U1(a=1,b=2)", "");
     options.parseOptions("b=3,c");

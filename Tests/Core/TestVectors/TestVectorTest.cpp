@@ -89,6 +89,12 @@ TEST(TestVector, TheDeltaTimeMustBeANumberOf32Bits) {
     EXPECT_EQ(errorOfLine("time a ==(dT)=> b", "0 H 2147483648 L"), message + "'2147483648'");
 }
 
+TEST(TestVector, TheEndTimeMustBeANumberOf32BitsToo) {
+    EXPECT_EQ(errorOfLine("time a ==(dT)=> b", "2147483640 H 8 L"),
+              "Error on line 9: 2147483640 + 8 is beyond the latest time, 2147483647.");
+    EXPECT_EQ(Line("time a ==(dT)=> b", "2147483640 H 7 L").vector.endTime(), 2147483647);
+}
+
 TEST(TestVector, CellsMixHexadecimalDigitsAndLevels) {
     const std::vector<std::pair<std::string, std::string>> cells = {
         {"2h", "LLHLh"},
