@@ -28,7 +28,7 @@ namespace fs = std::filesystem;
 constexpr const char* kAnything = "(any)\n";
 
 /// No case may get lost: the number is raised by hand with every new one.
-constexpr std::size_t kCaseCount = 0;
+constexpr std::size_t kCaseCount = 180;
 
 struct Outcome {
     std::string output;

@@ -1,0 +1,5 @@
+b = A
+c = HL
+d = Z
+time a => bq cq dq
+0 0 LLLLHLHL LLLLLLHL UUUUUUUU

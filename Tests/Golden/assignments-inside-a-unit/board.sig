@@ -1,0 +1,4 @@
+u.enable = H
+time a ==(dT)=> q
+0 0 3 L
+10 1 3 H

@@ -1,0 +1,17 @@
+time a b ==(dT)=> and nand or nor xor xnor inv
+0 L L 3 L H L H L H H
+10 L H 3 L H H L H L H
+20 L U 3 L H U U U U H
+30 L Z 3 L H U U U U H
+40 H L 3 L H H L H L L
+50 H H 3 H L H L L H L
+60 H U 3 U U H L U U L
+70 H Z 3 U U H L U U L
+80 U L 3 L H U U U U U
+90 U H 3 U U H L U U U
+100 U U 3 U U U U U U U
+110 U Z 3 U U U U U U U
+120 Z L 3 L H U U U U U
+130 Z H 3 U U H L U U U
+140 Z U 3 U U U U U U U
+150 Z Z 3 U U U U U U U

@@ -1,0 +1,4 @@
+time a ==(dT)=> q
+0 0 3 H
+10 1 3 L
+u.g(delay=1)

@@ -1,0 +1,2 @@
+time a ==(dT)=> q
+0 H 5ns L

@@ -1,0 +1,1 @@
+timex a => q

@@ -1,0 +1,3 @@
+time a => q
+
+100 # digits alone

@@ -1,0 +1,2 @@
+g(delay=1=2)
+time a => q

@@ -1,0 +1,2 @@
+time a => q
+time a

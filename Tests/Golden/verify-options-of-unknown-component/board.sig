@@ -1,0 +1,3 @@
+zz(delay=1)
+time a => q
+0 0 H

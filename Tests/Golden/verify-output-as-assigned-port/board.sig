@@ -1,0 +1,3 @@
+g.out=1
+time a => q
+0 0 H

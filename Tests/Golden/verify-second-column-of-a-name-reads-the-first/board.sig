@@ -1,0 +1,3 @@
+time a => q q
+0 0 L H
+10 1 L H

@@ -1,0 +1,3 @@
+time a => q
+zz.p = H
+0 0 H
