@@ -41,7 +41,10 @@ TEST(Stimulus, ATextIsFittedToTheWidthOfThePort) {
         {"h", 3, "LLh"},
         {"dEaDbEeF", 32, "HHLHHHHLHLHLHHLHHLHHHHHLHHHLHHHH"},
     };
-    for (const Row& row : rows) EXPECT_EQ(normalizedStimulus(row.text, row.size), row.expected) << row.text;
+    for (const Row& row : rows) {
+        const Port port(row.size, Direction::Input, "in");
+        EXPECT_EQ(CircuitVerifier::normalize(port, row.text), row.expected) << row.text;
+    }
 }
 
 TEST(Stimulus, AllVectorsAreAppliedBeforeTheRun) {

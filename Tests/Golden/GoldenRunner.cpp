@@ -53,7 +53,8 @@ void writeAll(const fs::path& file, const std::string& text) {
 }
 
 std::string quoted(const fs::path& path) {
-    return "'" + path.string() + "'";
+    std::string text = "'";
+    return text.append(path.string()).append("'");
 }
 
 std::string trimmedLine(std::string text) {
@@ -65,10 +66,10 @@ std::string trimmedLine(std::string text) {
 Outcome runCase(const fs::path& folder, const fs::path& program, const fs::path& scratch) {
     const fs::path output = scratch / "out";
     const fs::path errors = scratch / "err";
-    // In a subshell, so that the shell's own word about an aborted program stays out of the error stream.
-    const std::string command = "cd " + quoted(folder) + " && (" + quoted(program) + " " +
+    // The shell's own word about an aborted program goes nowhere.
+    const std::string command = "cd " + quoted(folder) + " && exec 2>/dev/null; " + quoted(program) + " " +
                                 trimmedLine(readAll(folder / "args")) + " </dev/null >" + quoted(output) + " 2>" +
-                                quoted(errors) + ") 2>/dev/null";
+                                quoted(errors);
     const int status = std::system(command.c_str());
     return {readAll(output), readAll(errors), WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status)};
 }
