@@ -208,10 +208,17 @@ TEST_P(NetComparison, NetsDoWhatThePlainRulesSay) {
     EXPECT_EQ(letters['X'], 0);
 }
 
+std::string nameOf(const testing::TestParamInfo<NetComparison::ParamType>& info) {
+    const auto [shape, withSpecs] = info.param;
+    constexpr const char* kNames[] = {"Apart", "InAChain", "InAStar", "InALoop", "JoinedAnyhow"};
+    return std::string(kNames[static_cast<int>(shape)]) + (withSpecs ? "WithBitRanges" : "");
+}
+
 INSTANTIATE_TEST_SUITE_P(Shapes, NetComparison,
                          testing::Combine(testing::Values(Shape::Apart, Shape::Chain, Shape::Star, Shape::Loop,
                                                           Shape::Anyhow),
-                                          testing::Bool()));
+                                          testing::Bool()),
+                         nameOf);
 
 }  // namespace
 }  // namespace tarnsim
