@@ -89,6 +89,7 @@ Net::Net(const std::string& name, std::uint32_t width) : BaseObject(name), Value
 
 Net::~Net() {
     for (Port* port : ports_) letGo(*port);
+    for (Port* port : halfRemoved_) letGo(*port);
 }
 
 void Net::letGo(Port& port) const {
@@ -135,7 +136,9 @@ void Net::addPort(Port* port, std::int32_t first, std::int32_t last, int side) {
 void Net::removePort(Port* port) {
     pinSpecs_.erase(port);
     std::erase(ports_, port);
+    std::erase(halfRemoved_, port);
     port->setNet(nullptr, port->getNet(kInside) == this ? kInside : kOutside);
+    if (port->getNet(kOutside) == this) halfRemoved_.push_back(port);
 }
 
 void Net::disconnectAll() {
@@ -147,14 +150,25 @@ void Net::disconnectAll() {
 void Net::takeOver(Net& other) {
     for (Port* port : other.ports_) {
         for (const int side : {kInside, kOutside}) {
-            if (port->getNet(side) != &other) continue;
-            port->setNet(nullptr, side);
-            addPort(port, side);
+            if (port->getNet(side) == &other) other.handOver(*port, side, *this);
         }
     }
     other.pinSpecs_ = std::move(pinSpecs_);
     pinSpecs_.clear();
     other.ports_.clear();
+}
+
+void Net::handOver(Port& port, int side, Net& receiver) {
+    port.setNet(nullptr, side);
+    try {
+        receiver.addPort(&port, side);
+    } catch (...) {
+        port.setNet(this, side);
+        std::erase_if(ports_, [this](const Port* each) {
+            return each->getNet(kInside) != this && each->getNet(kOutside) != this;
+        });
+        throw;
+    }
 }
 
 const PinSpec* Net::getPinSpec(const Port* port) const {

@@ -87,8 +87,11 @@ private:
     void checkSideIsFree(const Port& port, int side) const;
     /// Clears every side on which the port points here.
     void letGo(Port& port) const;
+    /// Moves one attachment to another net. If that refuses it, the port stays, and so do all that still point here.
+    void handOver(Port& port, int side, Net& receiver);
 
-    std::vector<Port*> ports_;                                  ///< not owned
+    std::vector<Port*> ports_;        ///< not owned
+    std::vector<Port*> halfRemoved_;  ///< removed, but pointing here by a second side that removePort left alone
     std::unordered_map<const Port*, const PinSpec*> pinSpecs_;  ///< ports attached to a part of the net
     std::vector<std::unique_ptr<PinSpec>> ownedPinSpecs_;       ///< those that this net made itself
     const Update* updates_ = nullptr;                           ///< what is under way on this net, innermost first
