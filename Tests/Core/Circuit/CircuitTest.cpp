@@ -176,16 +176,16 @@ TEST(Circuit, PassesOnLoadResetStartAndEvaluationInTheOrderOfItsUnits) {
                      "b: evaluate 7", "a: evaluate 7", "b: disconnectPorts", "a: disconnectPorts"}));
 }
 
-TEST(Circuit, EvaluatesEachUnitWithItsInputsReadBeforeAndItsOutputsReadBehind) {
+TEST(Circuit, EvaluatesEachUnitAndRefreshesItsPortsAtThatTime) {
     const auto circuit = circuitFrom(
-        "Unit Inv first(delay=0)\nUnit Inv second(delay=0)\n"
+        "Unit Inv first(delay=0)\nUnit Inv second(delay=0)\nUnit High h\n"
         "Pin Input in\nNet i in first.in\nNet m first.out second.in\n");
     circuit->findPort("in")->set(Value("H"), 0);
     circuit->evaluate(7);
     EXPECT_EQ(circuit->findPort("first.out")->get(7), "L");
     EXPECT_EQ(circuit->findPort("second.out")->get(7), "H");
-    EXPECT_EQ(circuit->findPort("second.in")->recordCount(), 2u) << "from the net, and from the refresh";
-    EXPECT_EQ(circuit->findPort("second.out")->recordCount(), 2u) << "from the evaluation, and from the refresh";
+    EXPECT_EQ(circuit->findPort("first.in")->recordCount(), 2u) << "one from the net at 0, one from the refresh";
+    EXPECT_EQ(circuit->findPort("h.out")->recordCount(), 2u) << "one from the start, one from the refresh";
 }
 
 TEST(Circuit, EvaluatedOnceDoesNotComeBackToAUnitInFront) {
