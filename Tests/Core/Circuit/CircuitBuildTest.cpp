@@ -143,6 +143,17 @@ TEST(CircuitBuild, MakesOneNamelessUnitOfAnArrayWithParameters) {
     EXPECT_EQ(namesOf(circuitFrom("Unit And g[2]h\n")->getComponents()), Texts{"g[2]h"});
 }
 
+TEST(CircuitBuild, ReadsALineOfAnyLength) {
+    const std::string name(300'000, 'g');
+    std::string names;
+    for (int i = 0; i < 20'000; ++i) names += " g" + std::to_string(i);
+    const auto board = circuitFrom("Unit Inv " + name + names + " # " + name + "\nNet n " + name + ".in g7.out\n");
+    ASSERT_EQ(board->countComponents(), 20'001u);
+    EXPECT_EQ(board->getComponents()[0]->getCommentText(), name + "\n");
+    EXPECT_EQ(board->findNet("n")->getPorts(),
+              (std::vector<Port*>{board->findPort(name + ".in"), board->findPort("g7.out")}));
+}
+
 TEST(CircuitBuild, RefusesAUnitOfAnUnknownType) {
     expectRefusals({
         {"Unit Xyz a\n", "Error at board.nlx:1: Component type not found: 'Xyz'."},

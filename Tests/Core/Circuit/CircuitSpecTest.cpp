@@ -5,7 +5,7 @@
 namespace tarnsim {
 namespace {
 
-struct SpecCase {
+struct ReadingCase {
     std::string text;
     std::string message;
 };
@@ -74,7 +74,7 @@ TEST(CircuitSpec, TakesFieldsApartAtAnyWhiteSpace) {
 }
 
 TEST(CircuitSpec, RefusesAWordThatIsNoKeyword) {
-    const std::vector<SpecCase> cases = {
+    const std::vector<ReadingCase> cases = {
         {"unit And a\n", "Error in board.nlx:1: Illegal keyword: 'unit'."},
         {"\n\nUNIT And a\n", "Error in board.nlx:3: Illegal keyword: 'UNIT'."},
         {"Unit And a\nNets n p q", "Error in board.nlx:2: Illegal keyword: 'Nets'."},
@@ -82,18 +82,18 @@ TEST(CircuitSpec, RefusesAWordThatIsNoKeyword) {
         {"}x\n", "Error in board.nlx:1: Illegal keyword: '}x'."},
         {"Import\"x\"\n", "Error in board.nlx:1: Illegal keyword: 'Import\"x\"'."},
     };
-    for (const SpecCase& each : cases) EXPECT_EQ(errorOfReading(each.text), each.message);
+    for (const ReadingCase& each : cases) EXPECT_EQ(errorOfReading(each.text), each.message);
 }
 
 TEST(CircuitSpec, PutsTheRefusalsOfTheRecordsInFileAndLine) {
-    const std::vector<SpecCase> cases = {
+    const std::vector<ReadingCase> cases = {
         {"\nUnit And\n", "Error on line 2, in file board.nlx: Unit takes at least 2 arguments: Unit <type> <name>"},
         {"\n\nNet n\n", "Error in board.nlx:3: Net needs a name and at least one port: Net <name> <ports...>"},
         {"Pin Input\n", "Error on line 1, in file board.nlx: Pin takes at least 2 arguments: Pin <direction> <name>"},
         {"# x\nPort Input 8\n",
          "Error on line 2, in file board.nlx: Port takes at least 3 arguments: Port <direction> <size> <name>"},
     };
-    for (const SpecCase& each : cases) EXPECT_EQ(errorOfReading(each.text), each.message);
+    for (const ReadingCase& each : cases) EXPECT_EQ(errorOfReading(each.text), each.message);
 }
 
 TEST(CircuitSpec, LeavesAnArrayCountBeyond32BitsToTheStandardException) {
@@ -216,7 +216,7 @@ TEST(CircuitSpec, DoesNotMindABodyThatIsNeverClosed) {
 }
 
 TEST(CircuitSpec, RefusesBracesAndCircuitsOfTheWrongShape) {
-    const std::vector<SpecCase> cases = {
+    const std::vector<ReadingCase> cases = {
         {"\nCircuit\n", "Circuit syntax error in board.nlx:2."},
         {"Circuit x\n", "Circuit syntax error in board.nlx:1."},
         {"Circuit x{\n", "Circuit syntax error in board.nlx:1."},
@@ -230,7 +230,7 @@ TEST(CircuitSpec, RefusesBracesAndCircuitsOfTheWrongShape) {
         {"}\n", "Error in board.nlx:1: } without an open Circuit."},
         {"Circuit x {\n}\n\n}\nUnit And a\n", "Error in board.nlx:3: } without an open Circuit."},
     };
-    for (const SpecCase& each : cases) EXPECT_EQ(errorOfReading(each.text), each.message);
+    for (const ReadingCase& each : cases) EXPECT_EQ(errorOfReading(each.text), each.message);
 }
 
 TEST(CircuitSpec, TakesTheFirstQuoteOfACircuitLineThoughItIsNotTheOneOfTheFile) {

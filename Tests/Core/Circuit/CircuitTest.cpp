@@ -35,6 +35,23 @@ TEST(Circuit, HasTheTypeCircuitUnlessToldOtherwise) {
     EXPECT_EQ(inner.getParent(), &root);
 }
 
+TEST(Circuit, LeavesTheNetsOnBothSidesOfItsPortsAndTakesItsUnitsOffTheirNets) {
+    Texts calls;
+    Recorder unit("u", calls);
+    Net outside("outside", 1);
+    Net inside("inside", 1);
+    {
+        Circuit circuit("board", nullptr);
+        Pin* pin = circuit.createPin(Direction::Input, "p");
+        outside.addPort(pin, kOutside);
+        inside.addPort(pin, kInside);
+        circuit.addChild(&unit, nullptr);
+    }
+    EXPECT_TRUE(outside.getPorts().empty());
+    EXPECT_TRUE(inside.getPorts().empty());
+    EXPECT_EQ(calls, Texts{"u: disconnectPorts"});
+}
+
 TEST(Circuit, BeginsEmptyWithOneImportPath) {
     const Circuit circuit("board", nullptr);
     EXPECT_EQ(circuit.getImportPaths(), std::set<std::string>{"./"});

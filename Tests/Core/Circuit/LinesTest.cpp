@@ -20,7 +20,7 @@ std::string errorOfStatement(const std::string& statement) {
     return errorOf([&] { read<Record>(statement); });
 }
 
-/// What the field class and the records have in common.
+/// What a record of every kind has.
 void expectPlace(const Line& line) {
     EXPECT_EQ(line.lineNumber, kLine);
     EXPECT_EQ(line.fileName, kFile);
