@@ -70,7 +70,9 @@ void Circuit::disconnectPorts() {
 
 void Circuit::removeEmptyNets() {
     // The list first: it mustn't name what the factory deletes.
-    nets_.removeIf([](const Net* net) { return net->getPorts().empty(); });
+    const auto doomed = netFactory_.emptyNets();
+    if (doomed.empty()) return;
+    nets_.removeIf([&](const Net* net) { return doomed.contains(net); });
     netFactory_.removeEmptyNets();
 }
 

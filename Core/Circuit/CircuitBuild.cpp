@@ -90,11 +90,11 @@ void Circuit::addUnit(const UnitLine& line) {
 Component* Circuit::makeUnit(const UnitLine& line, const std::string& name) {
     if (Component* part = componentFactory_.create(line.type, name)) return part;
     const Circuit* declaration = findDeclaration(line.type);
-    if (declaration == nullptr) {
+    Circuit* clone = declaration == nullptr ? nullptr : componentFactory_.copy(*declaration);
+    if (clone == nullptr) {
         throw Error("Error at %s:%d: Component type not found: '%s'.", line.fileName.c_str(), line.lineNumber,
                     line.type.c_str());
     }
-    Circuit* clone = componentFactory_.copy(*declaration);
     clone->setName(name);
     return clone;
 }
@@ -116,8 +116,9 @@ void Circuit::addPort(const PortLine& line) {
 Port* Circuit::makePort(const std::string& text, std::uint32_t size, Direction direction, const Line& line) {
     const PortText port(text);
     if (Component::findPort(port.name) != nullptr) refuseDuplicatePort(port.name, line);
-    Port* made = createPort(size, direction, port.name);
+    Port* made = portFactory().createPort(size, direction, port.name);
     made->setOptions(port.options.map());
+    Component::addPort(made);
     return made;
 }
 
@@ -131,8 +132,9 @@ Port* Circuit::makePin(const std::string& text, Direction direction, const Line&
     // Unlike a port, a pin is looked for by its text with the options: `a` and `a(ztr=off)` make two pins.
     if (findPort(text) != nullptr) refuseDuplicatePort(text, line);
     const PortText pin(text);
-    Port* made = createPin(direction, pin.name);
+    Port* made = portFactory().createPin(direction, pin.name);
     made->setOptions(pin.options.map());
+    Component::addPort(made);
     return made;
 }
 

@@ -156,8 +156,8 @@ void Circuit::updateInstances(const Circuit& circuit) {
 
 Circuit* Circuit::instantiate(const std::string& type, const std::string& name) {
     const Circuit* declaration = findDeclaration(type);
-    if (declaration == nullptr) return nullptr;
-    Circuit* copy = componentFactory_.copy(*declaration);
+    Circuit* copy = declaration == nullptr ? nullptr : componentFactory_.copy(*declaration);
+    if (copy == nullptr) return nullptr;
     copy->setName(name.empty() ? declaration->getName() + "_copy" : name);
     return copy;
 }

@@ -43,7 +43,7 @@ Component* ComponentFactory::create(const std::string& type, const std::string& 
 Circuit* ComponentFactory::copy(const Circuit& circuit) {
     auto clone = circuit.cloneCircuit(circuit);
     Circuit* result = clone.get();
-    adopt(std::move(clone));
+    if (clone) adopt(std::move(clone));
     return result;
 }
 

@@ -45,7 +45,7 @@ public:
 
     /// A new part, with its parameters applied over the defaults. Null for an unknown type. Owned by this factory.
     Component* create(const std::string& type, const std::string& instanceText);
-    /// A deep copy of `circuit`. Owned by this factory.
+    /// A deep copy of `circuit`, or null if its class refuses to be copied. Owned by this factory.
     Circuit* copy(const Circuit& circuit);
 
     /// Takes over an object.

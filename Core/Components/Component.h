@@ -113,7 +113,8 @@ protected:
     /// For a circuit, which alone is copied: copies of the ports, on no nets, in their order.
     Component(const Component& other);
 
-    const NamedList<Port>& portList() const { return ports_; }
+    /// For ports that are made first and added later.
+    PortFactory& portFactory() { return portFactory_; }
 
 private:
     void refreshAll(Direction direction, Time time);

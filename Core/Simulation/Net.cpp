@@ -253,6 +253,14 @@ void NetFactory::disconnectAll() {
     for (const auto& net : nets_) net->disconnectAll();
 }
 
+std::unordered_set<const Net*> NetFactory::emptyNets() const {
+    std::unordered_set<const Net*> empty;
+    for (const auto& net : nets_) {
+        if (net->getPorts().empty()) empty.insert(net.get());
+    }
+    return empty;
+}
+
 void NetFactory::removeEmptyNets() {
     std::erase_if(nets_, [](const std::unique_ptr<Net>& net) { return net->getPorts().empty(); });
 }

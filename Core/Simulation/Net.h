@@ -5,6 +5,7 @@
 #include <set>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "Core/Simulation/PinSpec.h"
@@ -109,7 +110,9 @@ public:
     Net* createNet(const std::string& name, std::uint32_t width);
     /// Detaches all ports of all nets.
     void disconnectAll();
-    /// Deletes every net that no port is attached to.
+    /// The nets that no port is attached to.
+    std::unordered_set<const Net*> emptyNets() const;
+    /// Deletes them.
     void removeEmptyNets();
 
 private:

@@ -1,5 +1,8 @@
 #include "Core/Support/Dict.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "Core/Support/Error.h"
 #include "Core/Support/TLog.h"
 
@@ -36,9 +39,12 @@ Dict::Dict(const Dict& other) {
 
 Dict& Dict::operator=(const Dict& other) {
     if (this == &other) return *this;
-    // The old children are freed last: the source may be one of them.
     const std::unique_ptr<Contents> former = std::move(contents_);
     if (other.contents_) copyFrom(*other.contents_);
+    // Children live as long as this object, also those that it has no key for any longer; the source may be one of them.
+    if (former && !former->ownedDicts.empty()) {
+        std::ranges::move(former->ownedDicts, std::back_inserter(contents().ownedDicts));
+    }
     return *this;
 }
 

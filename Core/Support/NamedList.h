@@ -111,7 +111,7 @@ private:
         }
 
         void add(T* item) {
-            entries_.emplace(hashOf(item->getName()), Entry{item, nextPosition_++});
+            entries_.emplace(hashOf(item->getName()), Entry{item, item, nextPosition_++});
             item->watchName(this);
         }
 
@@ -161,6 +161,7 @@ private:
     private:
         struct Entry {
             T* item;
+            const BaseObject* object;  ///< the same, for when only this part of it is left
             std::uint64_t position;  ///< order in the list; positions only grow, as objects are only appended
         };
 
@@ -170,7 +171,7 @@ private:
             std::vector<Entry> taken;
             const auto [first, last] = entries_.equal_range(hashOf(name));
             for (auto it = first; it != last;) {
-                if (static_cast<const BaseObject*>(it->second.item) == &object) {
+                if (it->second.object == &object) {
                     taken.push_back(it->second);
                     it = entries_.erase(it);
                 } else {

@@ -34,6 +34,10 @@ Value ValueHistory::recordedValue(Time time) const {
     return record ? valueOfRecord(*record) : Value(width_);
 }
 
+Value ValueHistory::valueBefore(Time time) const {
+    return time == kEarliestTime ? Value(width_) : recordedValue(time - 1);
+}
+
 std::int32_t ValueHistory::maxNumber() const {
     return static_cast<std::int32_t>((1U << (width_ % 32U)) - 1U);
 }
@@ -49,7 +53,7 @@ void ValueHistory::unsubscribe(ValueChangeSubscriber* subscriber) {
 }
 
 bool ValueHistory::isOneBitEdge(Time time, char before, char after) const {
-    return width_ == 1 && recordedValue(earlier(time, 1)) == before && recordedValue(time) == after;
+    return width_ == 1 && valueBefore(time) == before && recordedValue(time) == after;
 }
 
 bool ValueHistory::risingEdgeAt(Time time) const {
@@ -61,7 +65,7 @@ bool ValueHistory::fallingEdgeAt(Time time) const {
 }
 
 bool ValueHistory::changedAt(Time time) const {
-    return recordedValue(earlier(time, 1)) != recordedValue(time);
+    return valueBefore(time) != recordedValue(time);
 }
 
 bool ValueHistory::stableBetween(Time t1, Time t2) const {

@@ -97,6 +97,8 @@ protected:
 
 private:
     Value valueOfRecord(std::size_t i) const { return Value(records_.lettersOf(i), width_); }
+    /// 1 ns earlier.
+    Value valueBefore(Time time) const;
     bool isOneBitEdge(Time time, char before, char after) const;
 
     std::uint32_t width_;

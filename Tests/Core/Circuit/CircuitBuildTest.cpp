@@ -193,7 +193,7 @@ TEST(CircuitBuild, RefusesOptionsThatAPortDoesNotTake) {
 }
 
 // The port is in the list before its options are looked at.
-TEST(CircuitBuild, DISABLED_LeavesAPortOutWhoseOptionsAreRefused) {
+TEST(CircuitBuild, LeavesAPortOutWhoseOptionsAreRefused) {
     const Workplace here;
     Circuit board("board", nullptr);
     here.write("board.nlx", "Pin Output q\n");

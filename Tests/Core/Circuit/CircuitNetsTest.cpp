@@ -187,7 +187,7 @@ TEST_F(NetsOfACircuit, GoWithTheLastPortOfARemovedUnit) {
 }
 
 // The list loses every empty net, not only those that the circuit owns.
-TEST_F(NetsOfACircuit, DISABLED_OfAnotherOwnerStayListedWhenAUnitGoes) {
+TEST_F(NetsOfACircuit, OfAnotherOwnerStayListedWhenAUnitGoes) {
     Net foreign("foreign", 1);
     board.addNet(&foreign, "");
     board.removeComponent(board.findComponent("a"));
