@@ -216,7 +216,7 @@ public:
             case 0:
             case 1:
             case 2:
-            case 3: add(*objects_.emplace_back(std::make_unique<BaseObject>(anyName()))); break;
+            case 3: addNewOrDestroy(); break;
             case 4: withAnyObject([this](std::size_t i) { add(*objects_[i]); }); break;
             case 5:
             case 6: withAnyObject([this](std::size_t i) { objects_[i]->setName(anyName()); }); break;
@@ -248,6 +248,17 @@ private:
     template <class Action>
     void withAnyObject(Action action) {
         if (!objects_.empty()) action(numbers_.below(objects_.size()));
+    }
+
+    /// The number of objects swings between a few and a hundred.
+    void addNewOrDestroy() {
+        if (objects_.size() == 100) isGrowing_ = false;
+        if (objects_.size() < 5) isGrowing_ = true;
+        if (isGrowing_) {
+            add(*objects_.emplace_back(std::make_unique<BaseObject>(anyName())));
+        } else {
+            withAnyObject([this](std::size_t i) { destroy(i); });
+        }
     }
 
     void add(BaseObject& object) {
@@ -284,13 +295,14 @@ private:
     std::vector<std::unique_ptr<BaseObject>> objects_;
     List list_;
     PlainList plain_;
+    bool isGrowing_ = true;
     std::size_t longest_ = 0;  ///< most entries since the list was empty
 };
 
 TEST(NamedList, GivesWhatAWalkGivesThroughRandomChanges) {
     Comparison comparison;
     std::size_t longest = 0;
-    for (int i = 0; i < 5000; ++i) {
+    for (int i = 0; i < 3000; ++i) {
         comparison.change();
         ASSERT_NO_FATAL_FAILURE(comparison.expectEqual()) << "change " << i;
         longest = std::max(longest, comparison.longest());
