@@ -50,6 +50,6 @@ inline std::vector<std::string> piecesOf(const std::string& letters) {
 }
 
 /// Longer than any stack is deep.
-inline constexpr std::size_t kMegabytes = 4'000'000;
+inline constexpr std::size_t kMegabytes = 3'000'000;
 
 }  // namespace tarnsim

@@ -131,9 +131,9 @@ TEST(ArrayName, IsRefusedWhenOneCharacterDoesNotFit) {
 
 TEST(ArrayName, MatchesAsItsExpressionDoes) {
     expectSameCharacters(arrayGroups, kArrayExpression);
-    expectSameGroups(
-        arrayGroups, kArrayExpression,
-        {"a", "Z", "0", "12", "_", "(", ")", ",", "[", "]", "[1]", "[23]", "a[", "u[9]", "7]", "=", "[]", "\n"});
+    expectSameGroups(arrayGroups, kArrayExpression,
+                     {"a", "a", "Z0", "12", "_", "(", "a,b)", "[1]", "[1]", "[23]", "[0]", "[7]", "a[", "u[9]", "7]",
+                      "[", "]", "=", "\n"});
 }
 
 TEST(NamePatterns, WalkTextsOfMegabytes) {

@@ -116,7 +116,9 @@ void compareWithAMap(std::size_t width, bool mostlyForward) {
         const auto next = map.upper_bound(asked);
         const auto inForce = records.inForceAt(asked);
         ASSERT_EQ(inForce.has_value(), next != map.begin());
-        if (inForce) ASSERT_EQ(records.lettersOf(*inForce), std::prev(next)->second);
+        if (inForce) {
+            ASSERT_EQ(records.lettersOf(*inForce), std::prev(next)->second);
+        }
         ASSERT_EQ(records.firstFrom(asked), std::distance(map.begin(), map.lower_bound(asked)));
     }
     EXPECT_EQ(recordsOf(records), map);
