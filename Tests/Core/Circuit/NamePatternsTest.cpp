@@ -2,6 +2,7 @@
 
 #include <regex>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Tests/Support/RandomText.h"
@@ -36,7 +37,7 @@ Groups groupsOf(const std::string& text, const std::regex& expression) {
 /// Compares a matcher with its expression over random texts, many of which match and many of which don't.
 void expectSameGroups(Groups (*matcher)(std::string_view), const char* expression, std::vector<std::string> pieces) {
     const std::regex compiled(expression);
-    RandomTexts texts(std::move(pieces), 7);
+    RandomTexts texts(std::move(pieces), 5);
     std::size_t matched = 0;
     for (int i = 0; i < 20000; ++i) {
         const std::string text = texts.next();
@@ -44,7 +45,7 @@ void expectSameGroups(Groups (*matcher)(std::string_view), const char* expressio
         ASSERT_EQ(matcher(text), expected) << "'" << text << "'";
         matched += expected.empty() ? 0 : 1;
     }
-    EXPECT_GT(matched, 1000U);
+    EXPECT_GT(matched, 500U);
     EXPECT_LT(matched, 19000U);
 }
 
@@ -132,8 +133,8 @@ TEST(ArrayName, IsRefusedWhenOneCharacterDoesNotFit) {
 TEST(ArrayName, MatchesAsItsExpressionDoes) {
     expectSameCharacters(arrayGroups, kArrayExpression);
     expectSameGroups(arrayGroups, kArrayExpression,
-                     {"a", "a", "Z0", "12", "_", "(", "a,b)", "[1]", "[1]", "[23]", "[0]", "[7]", "a[", "u[9]", "7]",
-                      "[", "]", "=", "\n"});
+                     {"a",    "a",   "b",   "Z0", "12",   "_",  "(", "a,b)", "[1]", "[1]", "[1]",
+                      "[23]", "[0]", "[7]", "a[", "u[9]", "7]", "[", "]",    "=",   "\n"});
 }
 
 TEST(NamePatterns, WalkTextsOfMegabytes) {
