@@ -1,0 +1,26 @@
+#include "Core/Values/Time.h"
+
+#include "Tests/Support/TestSupport.h"
+
+namespace tarnsim {
+namespace {
+
+TEST(Time, IsSignedAndHas32Bits) {
+    EXPECT_EQ(kEarliestTime, -2147483647 - 1);
+    EXPECT_EQ(kLatestTime, 2147483647);
+}
+
+TEST(Time, IsAddedToWithoutAWrap) {
+    EXPECT_EQ(later(10, 5), 15);
+    EXPECT_EQ(later(kLatestTime, 1), 2147483648);
+    EXPECT_EQ(later(-1, 4294967295), 4294967294);
+}
+
+TEST(Time, ComesBackByTheDelayThatWasAdded) {
+    EXPECT_EQ(earlier(15, 5), 10);
+    EXPECT_EQ(earlier(0, 1), -1);
+    EXPECT_EQ(earlier(5, 0), 5);
+}
+
+}  // namespace
+}  // namespace tarnsim
