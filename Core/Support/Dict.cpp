@@ -41,7 +41,8 @@ Dict& Dict::operator=(const Dict& other) {
     if (this == &other) return *this;
     const std::unique_ptr<Contents> former = std::move(contents_);
     if (other.contents_) copyFrom(*other.contents_);
-    // Children live as long as this object, also those that it has no key for any longer; the source may be one of them.
+    // Children live as long as this object, also those that it has no key for any longer; the source may be one of
+    // them.
     if (former && !former->ownedDicts.empty()) {
         std::ranges::move(former->ownedDicts, std::back_inserter(contents().ownedDicts));
     }

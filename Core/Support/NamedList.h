@@ -162,7 +162,7 @@ private:
         struct Entry {
             T* item;
             const BaseObject* object;  ///< the same, for when only this part of it is left
-            std::uint64_t position;  ///< order in the list; positions only grow, as objects are only appended
+            std::uint64_t position;    ///< order in the list; positions only grow, as objects are only appended
         };
 
         static std::size_t hashOf(std::string_view name) { return std::hash<std::string_view>{}(name); }

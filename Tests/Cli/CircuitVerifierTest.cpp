@@ -111,7 +111,7 @@ TEST(CircuitVerifier, WithoutVerifyingNothingIsCompared) {
 }
 
 TEST(CircuitVerifier, OptionsHoldForTheRunOnly) {
-    Probe probe("u");
+    ParameterProbe probe("u");
     Bench bench("u(fast,delay=20)\ntime a\n");
     bench.port(Direction::Input, 1, "a");
     bench.circuit.addChild(&probe, nullptr);
@@ -124,7 +124,7 @@ TEST(CircuitVerifier, OptionsHoldForTheRunOnly) {
 }
 
 TEST(CircuitVerifier, EmptyOptionsApplyTheParametersToo) {
-    Probe probe("u");
+    ParameterProbe probe("u");
     Bench bench("u()\ntime a\n");
     bench.port(Direction::Input, 1, "a");
     bench.circuit.addChild(&probe, nullptr);
@@ -133,7 +133,7 @@ TEST(CircuitVerifier, EmptyOptionsApplyTheParametersToo) {
 }
 
 TEST(CircuitVerifier, TwoLinesForOneComponentLeaveTheFirstOnesEffect) {
-    Probe probe("u");
+    ParameterProbe probe("u");
     Bench bench("u(delay=5,a=1)\nu(delay=7,b=2)\ntime a\n");
     bench.port(Direction::Input, 1, "a");
     bench.circuit.addChild(&probe, nullptr);
@@ -155,7 +155,7 @@ TEST(CircuitVerifier, AGateGetsItsDelayBack) {
 }
 
 TEST(CircuitVerifier, OptionsNeedAComponent) {
-    Probe probe("u");
+    ParameterProbe probe("u");
     Bench bench("u(a=1)\nzz(a=1)\ntime a\n");
     bench.port(Direction::Input, 1, "a");
     bench.circuit.addChild(&probe, nullptr);

@@ -28,9 +28,9 @@ private:
 };
 
 /// A component without ports of its own that notes the parameters of each call of applyParameters.
-class Probe : public Component {
+class ParameterProbe : public Component {
 public:
-    explicit Probe(const std::string& name) : Component("Probe", name, nullptr) {}
+    explicit ParameterProbe(const std::string& name) : Component("Probe", name, nullptr) {}
 
     void evaluate(Time) override {}
     void applyParameters() override { applied.push_back(getParameterText()); }

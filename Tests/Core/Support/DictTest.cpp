@@ -224,7 +224,7 @@ TEST(Dict, LosesWhatItHeldWhenItIsAssignedTo) {
 }
 
 // A child lives as long as its parent, also when an assignment takes its key away. Today it's freed.
-TEST(Dict, DISABLED_KeepsItsFormerChildrenAliveWhenItIsAssignedTo) {
+TEST(Dict, KeepsItsFormerChildrenAliveWhenItIsAssignedTo) {
     Dict target;
     Dict& child = target.dict("child");
     child.setString("s", "still there");
