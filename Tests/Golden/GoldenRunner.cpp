@@ -5,6 +5,8 @@
 //   expected.err   error stream, likewise; the single line `(any)` says that it isn't compared
 //   exit           exit status as the shell gives it, 134 for an abort; without the file 0
 //
+// A file `directory` names another working directory, as seen from the folder.
+//
 // `--approve` writes what the program does into these files, for a person to review as a diff. `--filter=TEXT` runs the
 // cases with TEXT in their path, `--program=FILE` and `--cases=FOLDER` say what to run.
 
@@ -28,7 +30,7 @@ namespace fs = std::filesystem;
 constexpr const char* kAnything = "(any)\n";
 
 /// No case may get lost: the number is raised by hand with every new one.
-constexpr std::size_t kCaseCount = 180;
+constexpr std::size_t kCaseCount = 184;
 
 struct Outcome {
     std::string output;
@@ -67,7 +69,8 @@ Outcome runCase(const fs::path& folder, const fs::path& program, const fs::path&
     const fs::path output = scratch / "out";
     const fs::path errors = scratch / "err";
     // The shell's own word about an aborted program goes nowhere.
-    const std::string command = "cd " + quoted(folder) + " && exec 2>/dev/null; " + quoted(program) + " " +
+    const fs::path directory = folder / trimmedLine(readAll(folder / "directory"));
+    const std::string command = "cd " + quoted(directory) + " && exec 2>/dev/null; " + quoted(program) + " " +
                                 trimmedLine(readAll(folder / "args")) + " </dev/null >" + quoted(output) + " 2>" +
                                 quoted(errors);
     const int status = std::system(command.c_str());
