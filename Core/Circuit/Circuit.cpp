@@ -25,9 +25,7 @@ Circuit::Circuit(const std::string& name, Circuit* parent) : Circuit("Circuit", 
 Circuit::Circuit(const std::string& type, const std::string& name, Circuit* parent) : Component(type, name, parent) {}
 
 Circuit::~Circuit() {
-    // All nets of this circuit end here, so they let go of their ports at once: port by port would take time in the
-    // square of a net's size.
-    netFactory_.disconnectAll();
+    dissolveNets();
     for (Port* port : getPorts()) {
         port->disconnect(kInside);
         port->disconnect(kOutside);
@@ -36,6 +34,12 @@ Circuit::~Circuit() {
     children_.clear();
     declarations_.clear();
     nets_.clear();
+}
+
+void Circuit::dissolveNets() {
+    // All nets at once: that they lose their ports one by one would take time in the square of a net's size.
+    netFactory_.disconnectAll();
+    componentFactory_.dissolveNets();
 }
 
 void Circuit::onLoaded(Circuit* /*owner*/) {

@@ -240,12 +240,16 @@ private:
     std::vector<Net*> collectNets(const std::vector<Port*>& ports) const;
     static Net* mergeNets(const std::vector<Net*>& nets, const std::string& name);
     void removeEmptyNets();
+    /// Before this circuit dies: detaches all ports of all nets that die with it.
+    void dissolveNets();
+    friend ComponentFactory;  // passes that on to the circuits that it owns
 
     std::string filePath_;  ///< empty for a circuit declared inline
     bool notLoaded_ = true;
     std::weak_ptr<const CircuitSpec> spec_;
     NamedList<Component> children_;  ///< not owned here
-    NamedList<Net> nets_;            ///< not owned here; none twice
+    /// Not owned here; none twice. Watched from the first one on: a net that was taken over from a unit dies with that.
+    NamedList<Net> nets_{0};
     std::map<std::string, std::vector<std::string>> metaData_;
     std::vector<std::unique_ptr<Comment>> comments_;
     ComponentFactory componentFactory_;  ///< owns units and declarations

@@ -47,6 +47,12 @@ Circuit* ComponentFactory::copy(const Circuit& circuit) {
     return result;
 }
 
+void ComponentFactory::dissolveNets() {
+    for (const auto& component : components_) {
+        if (auto* circuit = dynamic_cast<Circuit*>(component.get())) circuit->dissolveNets();
+    }
+}
+
 Component* ComponentFactory::adopt(std::unique_ptr<Component> component) {
     return components_.emplace_back(std::move(component)).get();
 }

@@ -48,6 +48,9 @@ public:
     /// A deep copy of `circuit`, or null if its class refuses to be copied. Owned by this factory.
     Circuit* copy(const Circuit& circuit);
 
+    /// Detaches all ports of all nets of the circuits owned here, for the one that is about to destroy them.
+    void dissolveNets();
+
     /// Takes over an object.
     Component* adopt(std::unique_ptr<Component> component);
     /// Hands an object over to the caller; null if this factory doesn't own it.

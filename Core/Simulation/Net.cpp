@@ -60,10 +60,14 @@ public:
 
 private:
     std::string ringMessage() const {
-        std::string names = "'" + net_.getName() + "'";
+        std::vector<const Net*> ring = {&net_};  // innermost first
         for (const Update* each = caller_; each != nullptr; each = each->caller_) {
-            names.insert(0, "'" + each->net_.getName() + "' -> ");
+            ring.push_back(&each->net_);
             if (&each->net_ == &net_) break;
+        }
+        std::string names;
+        for (auto net = ring.rbegin(); net != ring.rend(); ++net) {
+            names.append(names.empty() ? "'" : " -> '").append((*net)->getName()).append("'");
         }
         return "Error: a value comes back to the net that it left, through units that connect an input straight to an "
                "output: " +

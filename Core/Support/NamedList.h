@@ -20,13 +20,14 @@ namespace tarnsim {
 /// An owner whose objects die before the list is destroyed clears the list first.
 ///
 /// Short lists (the ports of a gate) are walked, as that's faster and needs no memory. A longer one builds an index by
-/// name, and from then on an object that dies leaves the list by itself.
+/// name, and from then on an object that dies leaves the list by itself. With a `longestWalk` of 0 that holds for all.
 template <class T>
 class NamedList {
 public:
     using const_iterator = typename std::vector<T*>::const_iterator;
 
-    NamedList() = default;
+    /// A list of more than `longestWalk` objects gets an index.
+    explicit NamedList(std::size_t longestWalk = 16) : longestWalk_(longestWalk) {}
     NamedList(const NamedList&) = delete;
     NamedList& operator=(const NamedList&) = delete;
 
@@ -41,7 +42,7 @@ public:
         items_.push_back(item);
         if (index_) {
             index_->add(item);
-        } else if (items_.size() > kLongestWalk) {
+        } else if (items_.size() > longestWalk_) {
             index_ = std::make_unique<Index>(*this);
             for (T* each : items_) index_->add(each);
         }
@@ -96,8 +97,6 @@ public:
     }
 
 private:
-    static constexpr std::size_t kLongestWalk = 16;
-
     /// From the hash of a name to the objects that have it. The names themselves aren't copied: an entry is checked
     /// against its object.
     class Index final : public NameWatcher {
@@ -186,6 +185,7 @@ private:
         std::uint64_t nextPosition_ = 0;
     };
 
+    std::size_t longestWalk_;
     std::vector<T*> items_;         ///< not owned
     std::unique_ptr<Index> index_;  ///< null while the list is short
 };

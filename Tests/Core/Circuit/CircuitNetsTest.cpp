@@ -195,5 +195,18 @@ TEST_F(NetsOfACircuit, OfAnotherOwnerStayListedWhenAUnitGoes) {
     board.deleteNet(&foreign);
 }
 
+TEST(NetsOfACircuit, ANetTakenOverFromAUnitLeavesTheListWhenItDiesWithThatUnit) {
+    Circuit root("root", nullptr);
+    Circuit box("box", nullptr);
+    Component* gate = box.addComponent("Inv", "g");
+    box.createNet("inner", {gate->findPort("in")});
+    root.addChild(&box, nullptr);
+    root.createNet("outer", {gate->findPort("in")});
+    EXPECT_EQ(root.getNets(), box.getNets());
+    root.removeComponent(&box);
+    EXPECT_TRUE(root.getNets().empty());
+    root.reset();
+}
+
 }  // namespace
 }  // namespace tarnsim
