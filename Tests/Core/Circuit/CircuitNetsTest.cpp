@@ -195,7 +195,7 @@ TEST_F(NetsOfACircuit, OfAnotherOwnerStayListedWhenAUnitGoes) {
     board.deleteNet(&foreign);
 }
 
-TEST(NetsOfACircuit, ANetTakenOverFromAUnitLeavesTheListWhenItDiesWithThatUnit) {
+TEST(NetsOfANestedCircuit, ANetTakenOverFromAUnitLeavesTheListWhenItDiesWithThatUnit) {
     Circuit root("root", nullptr);
     Circuit box("box", nullptr);
     Component* gate = box.addComponent("Inv", "g");
