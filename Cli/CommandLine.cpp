@@ -45,6 +45,9 @@ std::int32_t readResolution(const char* text) {
 }  // namespace
 
 void parseOptions(int argc, char** argv, CommandLineOptions& options) {
+    // Options may stand behind the files, whatever the environment says: a `-v` that is overlooked would pass every
+    // test.
+    unsetenv("POSIXLY_CORRECT");
     int option = 0;
     while ((option = getopt(argc, argv, "hvp:n:R:")) != -1) {
         switch (option) {

@@ -37,7 +37,10 @@ Circuit::~Circuit() {
 }
 
 void Circuit::dissolveNets() {
-    // All nets at once: that they lose their ports one by one would take time in the square of a net's size.
+    // All nets at once: that they lose their ports one by one would take time in the square of a net's size. And once
+    // for the whole hierarchy: the circuits inside have nothing left to do when their turn to die comes.
+    if (netsAreDissolved_) return;
+    netsAreDissolved_ = true;
     netFactory_.disconnectAll();
     componentFactory_.dissolveNets();
 }

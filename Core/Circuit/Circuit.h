@@ -255,6 +255,7 @@ private:
     ComponentFactory componentFactory_;  ///< owns units and declarations
     NetFactory netFactory_;              ///< owns nets
     std::set<std::string> importPaths_{"./"};
+    bool netsAreDissolved_ = false;
     NamedList<Circuit> declarations_;  ///< not owned here
     /// The first declaration of each type; empty until asked for, and again after a change.
     mutable std::unordered_map<std::string, Circuit*> declarationsByType_;

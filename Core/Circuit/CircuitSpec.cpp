@@ -1,5 +1,6 @@
 #include "Core/Circuit/CircuitSpec.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <optional>
@@ -50,10 +51,13 @@ bool CircuitSpec::hasPendingComment() const {
 }
 
 void CircuitSpec::parseFile(const std::string& path) {
-    TextFile file(resolveFile(path));
+    const std::string found = resolveFile(path);
+    TextFile file(found);
     if (!file.isOpen()) throw Error("Error: File not found: '" + path + "'.");
+    filesBeingRead_.emplace_back(found);
     std::string line;
     while (file.readLine(line)) handleLine(line);
+    filesBeingRead_.pop_back();
     current_->checkSharedPorts();
 }
 
@@ -154,6 +158,11 @@ void CircuitSpec::pushBody(const std::string& name, const std::string& file) {
 
 void CircuitSpec::includeFile(const std::string& path) {
     CircuitSpec* body = current_;
+    // Nothing in a file decides whether it is imported, so one that comes round to itself never ends.
+    if (std::ranges::find(filesBeingRead_, FileIdentity(resolveFile(path))) != filesBeingRead_.end()) {
+        throw Error("Error in %s:%d: '%s' is being read already, it imports itself.", body->getFileName().c_str(),
+                    body->lineNumber_, path.c_str());
+    }
     const std::string fileName = std::exchange(body->fileName_, path);
     const int lineNumber = std::exchange(body->lineNumber_, 0);
     parseFile(path);

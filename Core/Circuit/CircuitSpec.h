@@ -8,6 +8,7 @@
 
 #include "Core/Circuit/FileParser.h"
 #include "Core/Circuit/Lines.h"
+#include "Core/Support/TextFile.h"
 
 namespace tarnsim {
 
@@ -82,6 +83,7 @@ private:
     CircuitSpec* current_;     ///< of the top-level object: the body that statements go to
     CircuitSpec* parentSpec_;  ///< not owned; null at the top level
     std::string pendingComment_;
+    std::vector<FileIdentity> filesBeingRead_;  ///< of the top-level object, outermost first
     bool isReadingOwnFile_ = false;  ///< a body in a file of its own, which ends with the file and not with a brace
 
     std::unordered_map<std::string, std::size_t> netOfPort_;  ///< checkSharedPorts: the first net that names a port

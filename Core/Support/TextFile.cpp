@@ -11,6 +11,13 @@ bool fileExists(const std::string& path) {
     return stat(path.c_str(), &status) == 0;
 }
 
+FileIdentity::FileIdentity(const std::string& path) {
+    struct stat status = {};
+    if (stat(path.c_str(), &status) != 0) return;
+    device = status.st_dev;
+    number = status.st_ino;
+}
+
 TextFile::TextFile(const std::string& path) : path_(path) {
     struct stat status = {};
     const bool isDirectory = stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);

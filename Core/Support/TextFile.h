@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <fstream>
 #include <string>
 
@@ -7,6 +8,16 @@ namespace tarnsim {
 
 /// True if the file system answers for `path`, be it a file or a directory.
 bool fileExists(const std::string& path);
+
+/// Which file a path leads to, however it is written: the same for two paths to one file.
+struct FileIdentity {
+    std::uint64_t device = 0;
+    std::uint64_t number = 0;
+
+    /// Of a path that leads nowhere, the identity of no file.
+    explicit FileIdentity(const std::string& path);
+    bool operator==(const FileIdentity&) const = default;
+};
 
 /// A text file, read line by line.
 class TextFile {

@@ -4,41 +4,66 @@
 
 namespace tarnsim {
 
-namespace {
-
-auto offset(std::size_t n) {
-    return static_cast<std::ptrdiff_t>(n);
+void ValueRecords::Stack::push(Time time, std::string_view text) {
+    times.push_back(time);
+    letters.insert(letters.end(), text.begin(), text.end());
 }
 
-}  // namespace
+void ValueRecords::Stack::pop(std::size_t width) {
+    times.pop_back();
+    letters.resize(letters.size() - width);
+}
 
 void ValueRecords::clear() {
-    times_.clear();
-    letters_.clear();
+    before_.times.clear();
+    before_.letters.clear();
+    behind_.reset();
+}
+
+void ValueRecords::moveTop(Stack& from, Stack& to) const {
+    to.push(from.times.back(), from.lettersOf(from.times.size() - 1, width_));
+    from.pop(width_);
+}
+
+void ValueRecords::moveGapTo(Time time) {
+    while (!before_.times.empty() && before_.times.back() > time) {
+        if (!behind_) behind_ = std::make_unique<Stack>();
+        moveTop(before_, *behind_);
+    }
+    while (behind_ && !behind_->times.empty() && behind_->times.back() <= time) moveTop(*behind_, before_);
 }
 
 void ValueRecords::store(Time time, std::string_view letters) {
-    if (times_.empty()) width_ = letters.size();
-    const std::size_t at = firstFrom(time);
-    const auto place = letters_.begin() + offset(at * width_);
-    if (at < size() && times_[at] == time) {
-        std::ranges::copy(letters, place);
-        return;
-    }
-    letters_.insert(place, letters.begin(), letters.end());
-    times_.insert(times_.begin() + offset(at), time);
+    if (empty()) width_ = letters.size();
+    moveGapTo(time);
+    if (!before_.times.empty() && before_.times.back() == time) before_.pop(width_);
+    before_.push(time, letters);
+}
+
+Time ValueRecords::timeOf(std::size_t i) const {
+    return i < before_.times.size() ? before_.times[i] : behind_->times[size() - 1 - i];
+}
+
+std::string_view ValueRecords::lettersOf(std::size_t i) const {
+    return i < before_.times.size() ? before_.lettersOf(i, width_) : behind_->lettersOf(size() - 1 - i, width_);
 }
 
 std::optional<std::size_t> ValueRecords::inForceAt(Time time) const {
-    if (!times_.empty() && times_.back() <= time) return size() - 1;
-    const auto next = std::ranges::upper_bound(times_, time);
-    if (next == times_.begin()) return std::nullopt;
-    return static_cast<std::size_t>(next - times_.begin() - 1);
+    std::size_t later = before_.times.size();  // the first record that is later than `time`
+    if (!before_.times.empty() && before_.times.back() > time) {
+        later = static_cast<std::size_t>(std::ranges::upper_bound(before_.times, time) - before_.times.begin());
+    } else if (behind_) {
+        const auto notLater = std::ranges::upper_bound(behind_->times.rbegin(), behind_->times.rend(), time);
+        later += static_cast<std::size_t>(notLater - behind_->times.rbegin());
+    }
+    if (later == 0) return std::nullopt;
+    return later - 1;
 }
 
 std::size_t ValueRecords::firstFrom(Time time) const {
-    if (times_.empty() || times_.back() < time) return size();
-    return static_cast<std::size_t>(std::ranges::lower_bound(times_, time) - times_.begin());
+    const auto record = inForceAt(time);
+    if (!record) return 0;
+    return timeOf(*record) == time ? *record : *record + 1;
 }
 
 }  // namespace tarnsim
