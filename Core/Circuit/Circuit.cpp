@@ -33,7 +33,6 @@ Circuit::~Circuit() {
     for (Component* child : children_) child->disconnectPorts();
     children_.clear();
     declarations_.clear();
-    nets_.clear();
 }
 
 void Circuit::dissolveNets() {
@@ -41,6 +40,7 @@ void Circuit::dissolveNets() {
     // for the whole hierarchy: the circuits inside have nothing left to do when their turn to die comes.
     if (netsAreDissolved_) return;
     netsAreDissolved_ = true;
+    nets_.clear();
     netFactory_.disconnectAll();
     componentFactory_.dissolveNets();
 }

@@ -103,8 +103,9 @@ public:
     std::size_t countComponents(const std::string& name) const { return children_.count(name); }
     bool hasComponent(const std::string& name) const { return findComponent(name) != nullptr; }
 
-    /// Adds an object that somebody else owns. `line` (may be null) is where it comes from. A circuit of a type that is
-    /// neither in the library nor declared here brings a copy of itself along as its declaration.
+    /// Adds an object that somebody else owns, and keeps alive as long as it is a unit here. `line` (may be null) is
+    /// where it comes from. A circuit of a type that is neither in the library nor declared here brings a copy of
+    /// itself along as its declaration.
     void addChild(Component* component, const Line* line);
     /// Takes a unit off its nets and out of the list. It stays owned as it was.
     void removeComponent(Component* component);

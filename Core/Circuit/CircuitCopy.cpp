@@ -1,5 +1,8 @@
 // Copies of circuits, declarations, and the units that are made from them.
 
+#include <algorithm>
+#include <limits>
+
 #include "Core/Circuit/Circuit.h"
 #include "Core/Circuit/CircuitSpec.h"
 #include "Core/Support/Error.h"
@@ -68,18 +71,35 @@ void Circuit::copyNets(const Circuit& other) {
     }
 }
 
-/// What getPortPath gives for each port on a net of this circuit, by one walk over the ports of the circuit and of its
-/// units instead of one for each port. Ports deeper down are rare and are searched for.
-std::unordered_map<const Port*, std::string> Circuit::pathsOfNetPorts() const {
-    std::unordered_map<const Port*, std::string> paths;
-    for (const Port* port : getPorts()) paths.emplace(port, port->getName());
-    for (const Component* child : children_) {
-        for (const Port* port : child->getPorts()) paths.emplace(port, child->getName() + "." + port->getName());
+namespace {
+
+using PortPaths = std::unordered_map<const Port*, std::string>;
+
+/// The paths of all ports of a circuit and of what is in it, down to the given depth, with `prefix` in front. The first
+/// path of a port stands, as in a search from the top.
+void collectPortPaths(const Component& component, const std::string& prefix, int depth, PortPaths& paths) {
+    for (const Port* port : component.getPorts()) paths.emplace(port, prefix + port->getName());
+    const auto* circuit = dynamic_cast<const Circuit*>(&component);
+    if (circuit == nullptr || depth == 0) return;
+    for (const Component* child : circuit->getComponents()) {
+        collectPortPaths(*child, prefix + child->getName() + ".", depth - 1, paths);
     }
+}
+
+}  // namespace
+
+/// What getPortPath gives for each port on a net of this circuit, by one walk over the ports instead of one for each of
+/// them. Nets that reach into units of units are rare; only for them the walk goes further down.
+std::unordered_map<const Port*, std::string> Circuit::pathsOfNetPorts() const {
+    PortPaths paths;
+    collectPortPaths(*this, "", 1, paths);
+    const auto isKnown = [&](const Port* port) { return paths.contains(port); };
+    const auto isCovered = [&](const Net* net) { return std::ranges::all_of(net->getPorts(), isKnown); };
+    if (std::ranges::all_of(nets_, isCovered)) return paths;
+
+    collectPortPaths(*this, "", std::numeric_limits<int>::max(), paths);
     for (const Net* net : nets_) {
-        for (const Port* port : net->getPorts()) {
-            if (!paths.contains(port)) paths.emplace(port, getPortPath(port));
-        }
+        for (const Port* port : net->getPorts()) paths.emplace(port, "");  // a port of somebody else has no path
     }
     return paths;
 }

@@ -133,6 +133,9 @@ public:
     /// A delay of 0 until applyParameters reads one.
     SingleDelayComponent(const std::string& type, const std::string& name, const ParaMap& parameters);
     SingleDelayComponent(const std::string& type, const std::string& name, std::uint32_t delay);
+    /// Parts refer to their own ports and are made anew from type, name and parameters.
+    SingleDelayComponent(const SingleDelayComponent&) = delete;
+    SingleDelayComponent& operator=(const SingleDelayComponent&) = delete;
 
     /// Schedules the evaluation of this component for `time + delay`, whatever changed.
     void inputChanged(Port* port, const Value& oldValue, const Value& newValue, Time time) override;

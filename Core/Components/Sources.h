@@ -17,6 +17,8 @@ public:
         drive();
     }
     explicit LevelSource(const std::string& name) : LevelSource(name, ParaMap()) {}
+    LevelSource(const LevelSource&) = delete;
+    LevelSource& operator=(const LevelSource&) = delete;
 
     void start(Time /*endTime*/) override { drive(); }
     void evaluate(Time /*time*/) override {}

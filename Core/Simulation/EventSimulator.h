@@ -16,7 +16,8 @@ class Port;
 
 /// The kernel: works through a queue of components to be called, in order of time.
 ///
-/// It carries no values; those are in the histories of ports and nets, written for any time at any moment. One
+/// Its circuit, and copies of that, schedule with it until setSimulator gives them another one or null; it must live as
+/// long. It carries no values; those are in the histories of ports and nets, written for any time at any moment. One
 /// simulator serves one root circuit, which it doesn't own. The order of use is: construction, `prepare`, stimuli set
 /// on ports, `run` once, then the tables. Nothing leaves the queue, so a second `run` would call everything again.
 class EventSimulator {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <forward_list>
+#include <iterator>
 #include <stdexcept>
 
 #include "Core/Simulation/NetResolver.h"
@@ -18,21 +19,15 @@ namespace tarnsim {
 /// for ever; a deep chain of nets that meets each one once is no such ring, however long it is.
 class Net::Update {
 public:
-    /// `caller` is the update that leads here; null for the first one.
-    Update(Net& net, Time time, const NetSet& visited, Update* caller)
-        : net_(net), time_(time), visited_(visited), caller_(caller), outer_(net.updates_) {
-        for (const Update* each = outer_; each != nullptr; each = each->outer_) {
-            if (each->time_ == time) throw Error(ringMessage());
-        }
-        net_.updates_ = this;
-    }
+    /// The first update, at the hands of somebody outside, who says which nets aren't to be visited.
+    Update(Net& net, Time time, const NetSet& visited) : Update(net, time, nullptr, &visited) {}
+    /// The update that `caller` has asked for.
+    Update(Net& net, Update& caller) : Update(net, caller.time_, &caller, nullptr) {}
     ~Update() { net_.updates_ = outer_; }
     Update(const Update&) = delete;
     Update& operator=(const Update&) = delete;
 
     Update* caller() const { return caller_; }
-    /// The nets that the update of the net given by `advance` mustn't go back to.
-    const NetSet& visitedForNext() const { return isFollowing_ ? kNone : visited_; }
 
     void resolve() {
         value_ = NetResolver::resolve(net_, time_);
@@ -45,9 +40,8 @@ public:
         while (nextJoin_ < net_.ports_.size()) {
             const Port& port = *net_.ports_[nextJoin_++];
             if (port.direction() != Direction::Inout) continue;
-            visited_.insert(&net_);
             Net* other = net_.otherNet(port);
-            if (other != nullptr && !visited_.contains(other)) return other;
+            if (other != nullptr && !isVisited(*other)) return other;
         }
         isFollowing_ = true;
         while (nextFollower_ < net_.ports_.size()) {
@@ -59,6 +53,27 @@ public:
     }
 
 private:
+    Update(Net& net, Time time, Update* caller, const NetSet* visited)
+        : net_(net),
+          time_(time),
+          caller_(caller),
+          joins_(caller == nullptr || caller->isFollowing_ ? this : caller->joins_),
+          visited_(visited),
+          outer_(net.updates_) {
+        for (const Update* each = outer_; each != nullptr; each = each->outer_) {
+            if (each->time_ == time) throw Error(ringMessage());
+        }
+        net_.updates_ = this;
+    }
+
+    /// Inouts don't lead back to a net that lies on the way of Inouts to here.
+    bool isVisited(const Net& other) const {
+        for (const Update* each = other.updates_; each != nullptr; each = each->outer_) {
+            if (each->joins_ == joins_) return true;
+        }
+        return joins_->visited_ != nullptr && joins_->visited_->contains(&other);
+    }
+
     std::string ringMessage() const {
         std::vector<const Net*> ring = {&net_};  // innermost first
         for (const Update* each = caller_; each != nullptr; each = each->caller_) {
@@ -74,13 +89,12 @@ private:
                names + ".";
     }
 
-    inline static const NetSet kNone;
-
     Net& net_;
     Time time_;
-    NetSet visited_;  ///< nets joined by Inouts on the way here
     Update* caller_;
-    const Update* outer_;  ///< the update of the same net, for another time, that this one stands in
+    const Update* joins_;    ///< where the way of Inouts to here began: the net that was set
+    const NetSet* visited_;  ///< of the first update, what its caller said; not owned
+    const Update* outer_;    ///< the update of the same net, for another time, that this one stands in
     Value value_;
     std::size_t nextJoin_ = 0;      ///< port to look at next for joined nets
     std::size_t nextFollower_ = 0;  ///< and for followers
@@ -159,6 +173,8 @@ void Net::takeOver(Net& other) {
     }
     other.pinSpecs_ = std::move(pinSpecs_);
     pinSpecs_.clear();
+    std::ranges::move(ownedPinSpecs_, std::back_inserter(other.ownedPinSpecs_));  // where they are used, they live
+    ownedPinSpecs_.clear();
     other.ports_.clear();
 }
 
@@ -225,12 +241,12 @@ Value Net::driveValue(Time time) const {
 }
 
 void Net::update(Time time, const NetSet& visited) {
-    Update first(*this, time, visited, nullptr);
+    Update first(*this, time, visited);
     first.resolve();
     std::forward_list<Update> deeper;  // innermost in front
     for (Update* current = &first; current != nullptr;) {
         if (Net* next = current->advance()) {
-            current = &deeper.emplace_front(*next, time, current->visitedForNext(), current);
+            current = &deeper.emplace_front(*next, *current);
             current->resolve();
         } else {
             current = current->caller();

@@ -6,11 +6,13 @@
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "Core/Simulation/PinSpec.h"
 #include "Core/Support/BaseObject.h"
 #include "Core/Support/Comment.h"
+#include "Core/Support/CreationNumber.h"
 #include "Core/Values/ValueHistory.h"
 
 namespace tarnsim {
@@ -79,6 +81,9 @@ public:
     void update(Time time, const NetSet& visited);
     void update(Time time) { update(time, NetSet()); }
 
+    /// For a walk over joined nets: true the first time that a walk of this number asks.
+    bool isNewTo(const CreationNumber& walk) const { return std::exchange(lastWalk_, walk.value()) != walk.value(); }
+
     /// One line with the names of the ports, through TLog.
     void dump() const;
 
@@ -95,7 +100,8 @@ private:
     std::vector<Port*> halfRemoved_;  ///< removed, but pointing here by a second side that removePort left alone
     std::unordered_map<const Port*, const PinSpec*> pinSpecs_;  ///< ports attached to a part of the net
     std::vector<std::unique_ptr<PinSpec>> ownedPinSpecs_;       ///< those that this net made itself
-    const Update* updates_ = nullptr;                           ///< what is under way on this net, innermost first
+    mutable std::uint64_t lastWalk_ = 0;
+    const Update* updates_ = nullptr;  ///< what is under way on this net, innermost first
 };
 
 /// Makes nets and owns them.

@@ -12,6 +12,9 @@ namespace tarnsim {
 /// What one bit holds when nothing was ever put on it.
 inline constexpr char kUndefinedBit = 'U';
 
+/// The most bits that a value can have.
+inline constexpr std::uint32_t kMaxValueWidth = 255;
+
 /// X, Z and U say nothing about a level. (Letters in lower case aren't folded.)
 constexpr bool isUndefinedLetter(char bit) {
     return bit == 'U' || bit == 'Z' || bit == 'X';
