@@ -35,6 +35,8 @@ void ValueRecords::moveGapTo(Time time) {
 
 void ValueRecords::store(Time time, std::string_view letters) {
     if (empty()) width_ = letters.size();
+    // The way of nearly every write; to look for the gap first would double its cost.
+    if (!behind_ && !before_.times.empty() && before_.times.back() < time) return before_.push(time, letters);
     moveGapTo(time);
     if (!before_.times.empty() && before_.times.back() == time) before_.pop(width_);
     before_.push(time, letters);

@@ -89,6 +89,15 @@ TEST(CommandLine, OptionsMayStandAnywhere) {
     }
 }
 
+TEST(CommandLine, OptionsStandBehindTheFilesWhateverTheEnvironmentSays) {
+    setenv("POSIXLY_CORRECT", "1", 1);
+    const CommandLineOptions options = parse({"a", "b", "-v"});
+    unsetenv("POSIXLY_CORRECT");
+    EXPECT_EQ(options.circuitFile, "a");
+    EXPECT_EQ(options.ioFile, "b");
+    EXPECT_TRUE(options.verify);
+}
+
 TEST(CommandLine, ARepeatedOptionOverwritesTheFormerText) {
     const CommandLineOptions options =
         parse({"-p", "x", "-n", "m", "a", "-R", "1", "b", "-p", "y", "-n", "", "-R", "2"});

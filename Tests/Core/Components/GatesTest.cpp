@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <stdexcept>
+#include <type_traits>
 
 #include "Core/Circuit/Circuit.h"
 #include "Core/Circuit/ComponentRegistry.h"
@@ -24,6 +25,9 @@ const std::map<std::string, std::vector<std::string>> kTruthTables = {
 std::unique_ptr<Component> make(const std::string& type, const std::string& parameters) {
     return findComponentType(type)->create("g", ParaMap(parameters));
 }
+
+static_assert(!std::is_copy_constructible_v<And> && !std::is_copy_constructible_v<Inv>,
+              "a copy would work the pins of its source");
 
 TEST(Gates, FollowTheirTruthTablesForAllFiveLetters) {
     for (const auto& [type, rows] : kTruthTables) {

@@ -1,6 +1,7 @@
 #include "Core/Simulation/NetResolver.h"
 
 #include <memory>
+#include <stdexcept>
 #include <string>
 
 #include "Core/Simulation/Net.h"
@@ -174,6 +175,30 @@ TEST(NetResolver, NetsJoinedInAChainAStarOrALoopResolveAsOne) {
             for (const auto& net : nets) EXPECT_EQ(net->get(0), "U");
         }
     }
+}
+
+TEST(NetResolver, AnyNumberOfNetsMayBeJoined) {
+    constexpr std::size_t kNets = 100'000;
+    std::vector<std::unique_ptr<Net>> nets;
+    PortList ports;
+    for (std::size_t i = 0; i < kNets; ++i) {
+        nets.push_back(std::make_unique<Net>("n", 1));
+        if (i > 0) join(ports, *nets[i - 1], *nets[i]);
+    }
+    ports.push_back(std::make_unique<Port>(1, Direction::Output, "driver"));
+    ports.back()->set(Value("H"), 0);
+    nets.back()->addPort(ports.back().get(), kOutside);
+    EXPECT_EQ(NetResolver::resolve(*nets.front(), 0), "H");
+}
+
+TEST(NetResolver, APortWithoutWidthOnAWiderNetHasNoBitToRead) {
+    Net net("n", 0);
+    Port unsized(0, Direction::Output, "unsized");
+    Port follower(1, Direction::Input, "follower");
+    net.addPort(&unsized, kOutside);
+    net.addPort(&follower, kOutside);  // the net takes its width from the first port that has one
+    EXPECT_EQ(standardExceptionOf<std::out_of_range>([&] { NetResolver::resolve(net, 0); }),
+              "Value: Index 0 larger than size 0");
 }
 
 TEST(NetResolver, APortOnAPartOfANetJoinsThoseBitsAlone) {

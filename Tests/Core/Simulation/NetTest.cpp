@@ -255,6 +255,22 @@ TEST(Net, ATakeOverHandsItsOwnPinSpecsToTheOtherAndDropsThoseOfTheOther) {
     EXPECT_EQ(standardExceptionOf<std::out_of_range>([&] { static_cast<void>(other.getPinSpec(&theirs)); }), "map::at");
 }
 
+TEST(Net, ARangeOutlivesTheNetThatMadeItWhenAnotherNetHasIt) {
+    Port port(4, Direction::Inout, "p");
+    Port driver(8, Direction::Output, "d");
+    Net other("other", 8);
+    {
+        Net net("n", 8);
+        net.addPort(&port, 3, 0, kOutside);
+        net.takeOver(other);
+        net.removePort(&port);
+    }
+    other.addPort(&port, other.getPinSpec(&port), kOutside);
+    other.addPort(&driver, kOutside);
+    driver.set(Value("LLLLHLHL"), 0);
+    EXPECT_EQ(other.valueFor(0, &port), "HLHL");
+}
+
 TEST(Net, ATakeOverOfANarrowPortIsRefused) {
     Port narrow(2, Direction::Inout, "narrow");  // outlives the nets: the take-over ends halfway
     Net net("n", 4);

@@ -1,0 +1,2 @@
+time p => q
+0 H H
