@@ -80,10 +80,9 @@ private:
             ring.push_back(&each->net_);
             if (&each->net_ == &net_) break;
         }
+        std::ranges::reverse(ring);
         std::string names;
-        for (auto net = ring.rbegin(); net != ring.rend(); ++net) {
-            names.append(names.empty() ? "'" : " -> '").append((*net)->getName()).append("'");
-        }
+        for (const Net* net : ring) names.append(names.empty() ? "'" : " -> '").append(net->getName()).append("'");
         return "Error: a value comes back to the net that it left, through units that connect an input straight to an "
                "output: " +
                names + ".";

@@ -43,11 +43,13 @@ void ValueRecords::store(Time time, std::string_view letters) {
 }
 
 Time ValueRecords::timeOf(std::size_t i) const {
-    return i < before_.times.size() ? before_.times[i] : behind_->times[size() - 1 - i];
+    const bool isBehind = behind_ && i >= before_.times.size();
+    return isBehind ? behind_->times[size() - 1 - i] : before_.times[i];
 }
 
 std::string_view ValueRecords::lettersOf(std::size_t i) const {
-    return i < before_.times.size() ? before_.lettersOf(i, width_) : behind_->lettersOf(size() - 1 - i, width_);
+    const bool isBehind = behind_ && i >= before_.times.size();
+    return isBehind ? behind_->lettersOf(size() - 1 - i, width_) : before_.lettersOf(i, width_);
 }
 
 std::optional<std::size_t> ValueRecords::inForceAt(Time time) const {
