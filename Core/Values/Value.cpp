@@ -125,7 +125,7 @@ void Value::assignText(std::string_view text) {
     }
     const std::size_t pad = width_ - text.size();
     const char padLetter = padLetterFor(text);
-    std::memmove(bits() + pad, text.data(), text.size());
+    if (!text.empty()) std::memmove(bits() + pad, text.data(), text.size());  // an empty view may point nowhere
     std::memset(bits(), padLetter, pad);
 }
 
