@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "Core/Circuit/ComponentFactory.h"
@@ -218,6 +219,17 @@ public:
     void checkConnections() const;
     /// Writes what is in the circuit through TLog; `deep` goes into units and declarations.
     void print(bool deep) const;
+
+protected:
+    /// A new unit of a class of the library, made from its constructor's arguments: for chips that are made of others.
+    template <class Part, class... Arguments>
+    Part& addPart(Arguments&&... arguments) {
+        auto part = std::make_unique<Part>(std::forward<Arguments>(arguments)...);
+        Part& unit = *part;
+        componentFactory_.adopt(std::move(part));
+        addChild(&unit, nullptr);
+        return unit;
+    }
 
 private:
     // One pass of setSpec each.

@@ -3,8 +3,16 @@
 #include <algorithm>
 #include <array>
 
+#include "Core/Components/Connectors.h"
 #include "Core/Components/Gates.h"
+#include "Core/Components/Primitives.h"
 #include "Core/Components/Sources.h"
+#include "Core/Components/TtlArithmetic.h"
+#include "Core/Components/TtlCounters.h"
+#include "Core/Components/TtlDecoders.h"
+#include "Core/Components/TtlFlipFlops.h"
+#include "Core/Components/TtlGates.h"
+#include "Core/Components/TtlRegisters.h"
 #include "Core/Support/Text.h"
 
 namespace tarnsim {
@@ -36,7 +44,13 @@ template <class Part>
 constexpr ComponentType row = {&typeNameOf<Part>, &create<Part>, &defaultsOf<Part>, &documentationOf<Part>};
 
 constexpr std::array kComponentTypes = {
-    row<High>, row<Low>, row<Inv>, row<And>, row<Nand>, row<Xor>, row<Xnor>, row<Or>, row<Nor>,
+    row<High>,      row<Low>,       row<Inv>,       row<And>,        row<Nand>,        row<Xor>,
+    row<Xnor>,      row<Or>,        row<Nor>,       row<Oscillator>, row<D_flip_flop>, row<ThreeStateBuf>,
+    row<BusBuffer>, row<Demux1to4>, row<Join>,      row<Split>,      row<Splice>,      row<Const>,
+    row<DM74LS00>,  row<DM74LS04>,  row<DM74LS08>,  row<DM74LS32>,   row<SN74x74>,     row<DM74LS78A>,
+    row<DM74LS125>, row<DM74LS137>, row<DM74LS139>, row<DM74LS154>,  row<SN74x174>,    row<DM74LS191>,
+    row<DM74LS244>, row<SN74x273>,  row<DM74LS283>, row<DM74LS374>,  row<DM74x574>,    row<SN74x688>,
+    row<SN74AS867>,
 };
 
 }  // namespace

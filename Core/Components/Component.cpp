@@ -130,6 +130,15 @@ void Component::scheduleTagged(Component* target, std::uint64_t tag, Time time) 
     if (EventSimulator* simulator = getSimulator()) simulator->schedule(target, tag, time);
 }
 
+void Component::scheduleAfter(Time time, std::uint32_t delay) {
+    const std::int64_t due = later(time, delay);
+    if (due <= kLatestTime) schedule(this, static_cast<Time>(due));  // what lies beyond all time never comes
+}
+
+std::string Component::describeDelay(std::uint32_t delay) {
+    return format("<br>Delay: <i>%d</i>", static_cast<int>(delay));
+}
+
 void Component::refreshAll(Direction direction, Time time) {
     for (Port* port : ports_) {
         if (port->direction() == direction) port->refresh(time);
@@ -160,12 +169,13 @@ SingleDelayComponent::SingleDelayComponent(const std::string& type, const std::s
 
 void SingleDelayComponent::inputChanged(Port* /*port*/, const Value& /*oldValue*/, const Value& /*newValue*/,
                                         Time time) {
-    const std::int64_t due = later(time, delay_);
-    if (due <= kLatestTime) schedule(this, static_cast<Time>(due));  // what lies beyond all time never comes
+    scheduleAfter(time, delay_);
 }
 
 void SingleDelayComponent::applyParameters() {
-    getParameters().get("delay", &delay_);
+    std::uint32_t delay = delay_;
+    getParameters().get("delay", &delay);
+    setDelay(delay);
 }
 
 }  // namespace tarnsim

@@ -116,6 +116,21 @@ protected:
     /// For ports that are made first and added later.
     PortFactory& portFactory() { return portFactory_; }
 
+    // New ports at the end of the list. Parts have them as members, so that a class's members are its port table.
+
+    Pin& inputPin(const std::string& name) { return *createPin(Direction::Input, name); }
+    Pin& outputPin(const std::string& name) { return *createPin(Direction::Output, name); }
+    Port& input(const std::string& name, std::uint32_t width) { return *createPort(width, Direction::Input, name); }
+    Port& output(const std::string& name, std::uint32_t width) { return *createPort(width, Direction::Output, name); }
+    /// A signal with a history that isn't in the list: a part's own. Its class clears it in `reset`.
+    Port& internalSignal(std::uint32_t width) { return *portFactory_.createPort(width, Direction::Output, "Unnamed"); }
+
+    /// Has this component evaluated `delay` ns after `time`; never, if that is beyond kLatestTime.
+    void scheduleAfter(Time time, std::uint32_t delay);
+
+    /// What getDescription says for a part with one delay in ns.
+    static std::string describeDelay(std::uint32_t delay);
+
 private:
     void refreshAll(Direction direction, Time time);
 
@@ -139,14 +154,16 @@ public:
 
     /// Schedules the evaluation of this component for `time + delay`, whatever changed.
     void inputChanged(Port* port, const Value& oldValue, const Value& newValue, Time time) override;
-    /// Reads `delay`; an absent one leaves it as it is.
+    /// Sets `delay` as the parameters have it; an absent one leaves it as it is.
     void applyParameters() override;
 
     std::uint32_t getDelay() const { return delay_; }
+    /// In ns. Parts that are made of others pass it on.
+    virtual void setDelay(std::uint32_t delay) { delay_ = delay; }
 
 protected:
-    /// What `port` held when the change that leads to an evaluation at `time` took place.
-    Value delayedInput(const Port& port, Time time) const { return port.get(earlier(time, delay_)); }
+    /// When the change took place that leads to an evaluation at `time`.
+    Time inputTime(Time time) const { return earlier(time, delay_); }
 
 private:
     std::uint32_t delay_;  ///< ns

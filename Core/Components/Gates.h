@@ -2,31 +2,26 @@
 
 #include <string>
 
-#include "Core/Components/Component.h"
-#include "Core/Components/PartInfo.h"
+#include "Core/Components/Chip.h"
 #include "Core/Values/Logic.h"
 
 namespace tarnsim {
 
 /// A gate with the pins `a`, `b` and `out`, whose output is `Operation(a, b)` one delay later.
 template <class Gate, auto Operation>
-class TwoInputGate : public SingleDelayComponent {
+class TwoInputGate : public Chip<Gate> {
 public:
-    TwoInputGate(const std::string& name, const ParaMap& parameters)
-        : SingleDelayComponent(std::string(Gate::info.typeName), name, parameters) {
-        SingleDelayComponent::applyParameters();
-    }
-    /// `delay` in ns.
-    TwoInputGate(const std::string& name, std::uint32_t delay)
-        : SingleDelayComponent(std::string(Gate::info.typeName), name, delay) {}
+    using Chip<Gate>::Chip;
 
-    void evaluate(Time time) override { out.set(Operation(delayedInput(a, time), delayedInput(b, time)), time); }
+    void evaluate(Time time) override {
+        const Time then = this->inputTime(time);
+        out.set(Operation(a.get(then), b.get(then)), time);
+    }
 
 private:
-    // In the order of the ports.
-    Pin& a = *createPin(Direction::Input, "a");
-    Pin& b = *createPin(Direction::Input, "b");
-    Pin& out = *createPin(Direction::Output, "out");
+    Pin& a = this->inputPin("a");
+    Pin& b = this->inputPin("b");
+    Pin& out = this->outputPin("out");
 };
 
 class And final : public TwoInputGate<And, Logic::And> {
@@ -66,19 +61,16 @@ public:
 };
 
 /// `out` is the opposite of `in`.
-class Inv final : public SingleDelayComponent {
+class Inv final : public Chip<Inv> {
 public:
     static constexpr PartInfo info = {"Inv", "(delay=3)", kDelayDocumentation};
-
-    Inv(const std::string& name, const ParaMap& parameters);
-    /// `delay` in ns.
-    Inv(const std::string& name, std::uint32_t delay);
+    using Chip::Chip;
 
     void evaluate(Time time) override;
 
 private:
-    Pin& in = *createPin(Direction::Input, "in");
-    Pin& out = *createPin(Direction::Output, "out");
+    Pin& in = inputPin("in");
+    Pin& out = outputPin("out");
 };
 
 }  // namespace tarnsim

@@ -14,4 +14,10 @@ struct PartInfo {
 
 inline constexpr std::string_view kDelayDocumentation = "<b>delay</b> The gate delay in ns.";
 
+/// For chips of several device families.
+inline constexpr std::string_view kFamilyDocumentation =
+    "<b>family</b> Which device family variant to be considered. Supported values are: LS, AS and ALS. It affects the "
+    "timing behaviour.<p><b>delay</b> The gate delay in ns.<p>If both parameters are specified, the <b>delay</b> "
+    "parameter overrides <b>family<b>";
+
 }  // namespace tarnsim

@@ -1,6 +1,7 @@
 #include "Core/Simulation/PinSpec.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <optional>
 #include <string_view>
 
@@ -10,6 +11,9 @@
 namespace tarnsim {
 
 namespace {
+
+/// No bus comes near to this; a slip of the pen mustn't take all memory.
+constexpr std::int64_t kLongestRange = 1 << 20;
 
 /// Takes a bit number off the front of a segment; characters behind it stay and are the caller's to judge.
 std::optional<std::int32_t> takeBitNumber(std::string_view& segment) {
@@ -28,7 +32,7 @@ bool appendSegment(std::string_view segment, std::vector<std::int32_t>& bits) {
     if (segment.empty() || segment.front() != ':') return false;
     segment.remove_prefix(1);
     const auto last = takeBitNumber(segment);
-    if (!last) return false;
+    if (!last || std::abs(std::int64_t{*last} - *first) > kLongestRange) return false;
     const std::int32_t step = *first < *last ? 1 : -1;
     for (std::int32_t bit = *first; bit != *last;) bits.push_back(bit += step);
     return true;

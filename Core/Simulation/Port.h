@@ -93,6 +93,10 @@ public:
     Pin(Direction direction, const std::string& name);
     Pin(const Pin& other) = default;
 
+    /// The letter that the pin reads at `time`.
+    char level(Time time) const { return get(time); }
+    void setLevel(char letter, Time time) { set(Value(letter, 1), time); }
+
     /// Sets `count` periods of a square wave from `start` on, each low first and high from its middle. Times in ns.
     void pulse(Time period, int count, Time start);
 };

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+
+#include "Core/Components/Component.h"
+#include "Core/Components/PartInfo.h"
+
+namespace tarnsim {
+
+/// A part with one delay that works its outputs out from its inputs. It reads like its page in the data book:
+///
+///     class DM74LS283 final : public Chip<DM74LS283> {
+///     public:
+///         static constexpr PartInfo info = {"DM74LS283", "(delay=24)", "..."};
+///         using Chip::Chip;
+///         void evaluate(Time time) override;
+///
+///     private:
+///         Port& A = input("A", 4);
+///         Pin& cout = outputPin("cout");
+///     };
+///
+/// The members are the ports in the order in which files see them, since members are initialised in order.
+///
+/// When this base is constructed, the part isn't there yet: the delay that is read here is that of
+/// SingleDelayComponent. A part with an `applyParameters` of its own calls it in a constructor of its own.
+template <class Part>
+class Chip : public SingleDelayComponent {
+public:
+    Chip(const std::string& name, const ParaMap& parameters)
+        : SingleDelayComponent(std::string(Part::info.typeName), name, parameters) {
+        SingleDelayComponent::applyParameters();
+    }
+    /// `delay` in ns.
+    Chip(const std::string& name, std::uint32_t delay)
+        : SingleDelayComponent(std::string(Part::info.typeName), name, delay) {}
+};
+
+}  // namespace tarnsim

@@ -1,0 +1,120 @@
+#include "Core/Components/Connectors.h"
+
+#include "Core/Components/PartParameters.h"
+#include "Core/Support/Error.h"
+#include "Core/Support/Text.h"
+
+namespace tarnsim {
+
+Connector::Connector(const PartInfo& info, const std::string& name, const ParaMap& parameters)
+    : Component(std::string(info.typeName), name, parameters) {}
+
+ParaMap Connector::parametersOf(const std::string& sizeKey, std::uint32_t size, const Declarations& ports) {
+    ParaMap parameters;
+    parameters[sizeKey] = std::to_string(size);
+    for (const auto& [port, bits] : ports) parameters[port] = bits;
+    return parameters;
+}
+
+std::uint32_t Connector::requireSize(const char* sizeKey, const char* message) const {
+    if (!getParameters().has(sizeKey)) throw Error(std::string(message));
+    std::uint32_t size = 0;
+    getParameters().get(sizeKey, &size);
+    return checkedSize(*this, sizeKey, size);
+}
+
+void Connector::declarePorts(const std::string& sizeKey, std::uint32_t size, Direction direction) {
+    for (const auto& [name, text] : getParameters().map()) {
+        if (name == sizeKey) continue;
+        auto bits = std::make_unique<const PinSpec>(text);
+        if (bits->maxBit() >= static_cast<std::int32_t>(size)) {
+            throw Error("Port '%s' (%s) is too big to fit into size %d.", name.c_str(), text.c_str(),
+                        static_cast<int>(size));
+        }
+        if (bits->size() > kMaxValueWidth) {
+            throw Error("Error: %s '%s': port '%s' has %zu bits, but %u is the limit.", getType().c_str(),
+                        getName().c_str(), name.c_str(), bits->size(), kMaxValueWidth);
+        }
+        Port* port = createPort(static_cast<std::uint32_t>(bits->size()), direction, name);
+        mappings_.push_back({port, std::move(bits)});
+    }
+}
+
+Join::Join(const std::string& name, const ParaMap& parameters) : Connector(info, name, parameters) {
+    const std::uint32_t size = requireSize("out", "A Join unit needs an 'out' parameter.");
+    out = &output("out", size);
+    declarePorts("out", size, Direction::Input);
+    for (const Mapping& mapping : mappings()) mapping.port->ztrOff();
+    refuseOverlaps();
+}
+
+Join::Join(const std::string& name, std::uint32_t size, const Declarations& ports)
+    : Join(name, parametersOf("out", size, ports)) {}
+
+void Join::refuseOverlaps() const {
+    for (const Mapping& first : mappings()) {
+        for (const Mapping& second : mappings()) {
+            if (&first == &second) continue;
+            for (const std::int32_t bit : first.bits->getBits()) {
+                if (!second.bits->contains(bit)) continue;
+                throw Error("BusJoin Overlap. Ports '%s' and '%s' both drive pin %d.", first.port->getName().c_str(),
+                            second.port->getName().c_str(), bit);
+            }
+        }
+    }
+}
+
+void Join::inputChanged(Port* /*port*/, const Value& /*oldValue*/, const Value& /*newValue*/, Time time) {
+    schedule(this, time);
+}
+
+void Join::evaluate(Time time) {
+    Value joined(out->width());
+    for (const Mapping& mapping : mappings()) {
+        const Value part = mapping.port->get(time);
+        for (std::size_t i = 0; i < part.width(); ++i) joined[mapping.busBit(i)] = part[i];
+    }
+    out->set(joined, time);
+}
+
+Split::Split(const std::string& name, const ParaMap& parameters) : Connector(info, name, parameters) {
+    const std::uint32_t size = requireSize("in", "A Split unit needs an 'in' parameter.");
+    in = &input("in", size);
+    declarePorts("in", size, Direction::Output);
+}
+
+Split::Split(const std::string& name, std::uint32_t size, const Declarations& ports)
+    : Split(name, parametersOf("in", size, ports)) {}
+
+void Split::inputChanged(Port* /*port*/, const Value& /*oldValue*/, const Value& /*newValue*/, Time time) {
+    schedule(this, time);
+}
+
+void Split::evaluate(Time time) {
+    const Value whole = in->get(time);
+    for (const Mapping& mapping : mappings()) {
+        Value part(mapping.port->width());
+        for (std::size_t i = 0; i < part.width(); ++i) part[i] = whole[mapping.busBit(i)];
+        mapping.port->set(part, time);
+    }
+}
+
+Splice::Splice(const std::string& name, const ParaMap& parameters) : Connector(info, name, parameters) {
+    const std::uint32_t size = requireSize("size", "A Splice unit needs a 'size' parameter.");
+    internalNet_ = std::make_unique<Net>(format("Splice %s", name.c_str()), size);
+    declarePorts("size", size, Direction::Inout);
+    for (const Mapping& mapping : mappings()) {
+        internalNet_->addPort(mapping.port, mapping.bits.get(), kInside);
+        mapping.port->ztrOff();
+    }
+}
+
+Splice::Splice(const std::string& name, std::uint32_t size, const Declarations& ports)
+    : Splice(name, parametersOf("size", size, ports)) {}
+
+void Splice::reset() {
+    internalNet_->clear();
+    Component::reset();
+}
+
+}  // namespace tarnsim
