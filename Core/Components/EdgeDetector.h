@@ -7,10 +7,6 @@
 
 namespace tarnsim {
 
-constexpr bool isLevel(char letter) {
-    return letter == 'H' || letter == 'L';
-}
-
 /// A clock at two times. Only the exact pair of levels is an edge: what comes from or goes to U, Z or X is none.
 struct ClockStep {
     char before;

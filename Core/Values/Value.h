@@ -20,6 +20,11 @@ constexpr bool isUndefinedLetter(char bit) {
     return bit == 'U' || bit == 'Z' || bit == 'X';
 }
 
+/// High or low.
+constexpr bool isLevel(char bit) {
+    return bit == 'H' || bit == 'L';
+}
+
 /// A vector of 0 to 255 logic bits, one letter a bit:
 ///
 ///   L  low                       H  high
