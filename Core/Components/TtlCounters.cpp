@@ -82,8 +82,8 @@ void SN74AS867::evaluate(Time time) {
     const char enp = ENP.level(then);
 
     if (!clock.isDefined() || !std::ranges::all_of(std::array{s0, s1, ent, enp}, isLevel)) {
-        TLog("867: some input is undefined at t=%d/it=%d: clk0=%c, clk1=%c, s0=%c, s1=%c, _ent=%c, _enp=%c", time, then,
-             clock.before, clock.now, s0, s1, ent, enp);
+        const TLog line("867: some input is undefined at t=%d/it=%d: clk0=%c, clk1=%c, s0=%c, s1=%c, _ent=%c, _enp=%c",
+                        time, then, clock.before, clock.now, s0, s1, ent, enp);
         count_.set(Value("UUUUUUUU"), time);
         RCO.setLevel('U', time);
     } else if (s1 == 'L' && s0 == 'L') {
