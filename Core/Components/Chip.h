@@ -22,18 +22,22 @@ namespace tarnsim {
 ///
 /// The members are the ports in the order in which files see them, since members are initialised in order.
 ///
-/// When this base is constructed, the part isn't there yet: the delay that is read here is that of
-/// SingleDelayComponent. A part with an `applyParameters` of its own calls it in a constructor of its own.
+/// When this base is constructed, the part isn't there yet: it reads the delay as SingleDelayComponent does. A part
+/// with an `applyParameters` of its own has it done by its own constructor, and asks for nothing here (`ApplyLater`).
 template <class Part>
 class Chip : public SingleDelayComponent {
 public:
-    Chip(const std::string& name, const ParaMap& parameters)
-        : SingleDelayComponent(std::string(Part::info.typeName), name, parameters) {
+    Chip(const std::string& name, const ParaMap& parameters) : Chip(name, parameters, ApplyLater()) {
         SingleDelayComponent::applyParameters();
     }
     /// `delay` in ns.
     Chip(const std::string& name, std::uint32_t delay)
         : SingleDelayComponent(std::string(Part::info.typeName), name, delay) {}
+
+protected:
+    struct ApplyLater {};
+    Chip(const std::string& name, const ParaMap& parameters, ApplyLater /*unused*/)
+        : SingleDelayComponent(std::string(Part::info.typeName), name, parameters) {}
 };
 
 }  // namespace tarnsim

@@ -20,7 +20,7 @@ void DM74LS283::evaluate(Time time) {
     cout.setLevel(carryOut, time);
 }
 
-SN74x688::SN74x688(const std::string& name, const ParaMap& parameters) : Chip(name, parameters) {
+SN74x688::SN74x688(const std::string& name, const ParaMap& parameters) : Chip(name, parameters, ApplyLater()) {
     SN74x688::applyParameters();
     Chip::applyParameters();
 }

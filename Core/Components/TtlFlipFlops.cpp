@@ -17,7 +17,7 @@ char opposite(char letter) {
 
 }  // namespace
 
-SN74x74::SN74x74(const std::string& name, const ParaMap& parameters) : Chip(name, parameters) {
+SN74x74::SN74x74(const std::string& name, const ParaMap& parameters) : Chip(name, parameters, ApplyLater()) {
     SN74x74::applyParameters();
 }
 

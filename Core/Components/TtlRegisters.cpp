@@ -5,7 +5,7 @@
 
 namespace tarnsim {
 
-SN74x174::SN74x174(const std::string& name, const ParaMap& parameters) : Chip(name, parameters) {
+SN74x174::SN74x174(const std::string& name, const ParaMap& parameters) : Chip(name, parameters, ApplyLater()) {
     SN74x174::applyParameters();
 }
 
@@ -36,7 +36,7 @@ void SN74x174::setAll(char letter, Time time) {
     for (Bit& bit : bits) bit.Q.setLevel(letter, time);
 }
 
-SN74x273::SN74x273(const std::string& name, const ParaMap& parameters) : Chip(name, parameters) {
+SN74x273::SN74x273(const std::string& name, const ParaMap& parameters) : Chip(name, parameters, ApplyLater()) {
     SN74x273::applyParameters();
 }
 
