@@ -1,0 +1,24 @@
+time S1 S0 _ENT _ENP CLK HA => fast.QHA fast._RCO plain.QHA plain._RCO slow.QHA slow._RCO
+0    L  L  L    L    L   00    UUUUUUUU U         UUUUUUUU  U          UUUUUUUU U
+50   L  L  L    L    L   00    UUUUUUUU U         UUUUUUUU  U          UUUUUUUU U
+100  L  L  L    L    L   FF    UUUUUUUU U         UUUUUUUU  U          UUUUUUUU U
+104  L  L  L    L    L   FF    UUUUUUUU U         UUUUUUUU  U          UUUUUUUU U
+105  L  L  L    L    L   FF    00       H         UUUUUUUU  U          UUUUUUUU U
+115  L  L  L    L    L   FF    00       H         UUUUUUUU  U          UUUUUUUU U
+116  L  L  L    L    L   FF    00       H         00        H          UUUUUUUU U
+130  L  L  L    L    L   FF    00       H         00        H          UUUUUUUU U
+131  L  L  L    L    L   FF    00       H         00        H          00       H
+200  L  H  L    L    L   FF    00       H         00        H          00       H
+204  L  H  L    L    L   FF    00       H         00        H          00       H
+205  L  H  L    L    L   FF    00       L         00        H          00       H
+215  L  H  L    L    L   FF    00       L         00        H          00       H
+216  L  H  L    L    L   FF    00       L         00        L          00       H
+230  L  H  L    L    L   FF    00       L         00        L          00       H
+231  L  H  L    L    L   FF    00       L         00        L          00       L
+300  L  H  L    L    H   FF    00       L         00        L          00       L
+304  L  H  L    L    H   FF    00       L         00        L          00       L
+305  L  H  L    L    H   FF    FF       H         00        L          00       L
+315  L  H  L    L    H   FF    FF       H         00        L          00       L
+316  L  H  L    L    H   FF    FF       H         FF        H          00       L
+330  L  H  L    L    H   FF    FF       H         FF        H          00       L
+331  L  H  L    L    H   FF    FF       H         FF        H          FF       H

@@ -1,0 +1,5 @@
+time _CTEN D_U CLK _LOAD DCBA ==(dT)=> QDCBA MAXMIN _RCO
+
+0    L     L   L   H     5    52       UUUU  U      U
+100  L     L   H   H     5    52       UUUU  U      U
+200  L     L   L   H     5    52       UUUU  U      U

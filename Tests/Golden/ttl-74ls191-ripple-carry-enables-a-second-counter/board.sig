@@ -1,0 +1,21 @@
+time D_U CLK _LOAD high low ==(dT)=> QH QL
+0    L   L   L     1    E   52       1  E
+200  L   L   H     0    0   52       1  E
+400  L   H   H     0    0   52       1  F
+600  L   L   H     0    0   52       1  F
+800  L   H   H     0    0   52       2  0
+1000 L   L   H     0    0   52       2  0
+1200 L   H   H     0    0   52       2  1
+1400 L   L   L     F    E   52       F  E
+1600 L   L   H     0    0   52       F  E
+1800 L   H   H     0    0   52       F  F
+2000 L   L   H     0    0   52       F  F
+2200 L   H   H     0    0   52       0  0
+# downwards
+2400 H   L   L     1    1   52       1  1
+2600 H   L   H     0    0   52       1  1
+2800 H   H   H     0    0   52       1  0
+3000 H   L   H     0    0   52       1  0
+3200 H   H   H     0    0   52       0  F
+3400 H   L   H     0    0   52       0  F
+3600 H   H   H     0    0   52       0  E

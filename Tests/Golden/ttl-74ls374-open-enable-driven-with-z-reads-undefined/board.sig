@@ -1,0 +1,9 @@
+time clk u._OE D  ==(dT)=> Q
+0    L   L     A5 28       UUUUUUUU
+100  H   L     A5 28       A5
+200  H   Z     A5 28       UUUUUUUU
+300  L   Z     3C 28       UUUUUUUU
+400  H   Z     3C 28       UUUUUUUU
+500  H   L     3C 28       3C
+600  H   X     3C 28       UUUUUUUU
+700  H   L     3C 28       3C

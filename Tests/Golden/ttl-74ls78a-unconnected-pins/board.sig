@@ -1,0 +1,9 @@
+time _CLR _CLK _PRE J K ==(dT)=> no_clr.1Q no_clk.1Q no_pre.1Q no_pre.2Q no_j.1Q no_j.2Q no_k.1Q no_k.2Q whole.1Q
+0    L    H    H    H H 20       U         L         U         L         L       L       L       L       L
+100  H    H    H    H H 20       U         L         U         L         L       L       L       L       L
+200  H    L    H    H H 20       U         L         U         H         U       H       U       H       H
+300  H    L    L    H H 20       U         H         U         H         H       H       H       H       H
+400  H    L    H    H H 20       U         H         U         H         H       H       H       H       H
+500  H    H    H    L L 20       U         H         U         H         H       H       H       H       H
+600  H    L    H    L L 20       U         H         U         H         U       H       U       H       H
+700  L    L    H    L L 20       U         L         U         L         L       L       L       L       L

@@ -1,0 +1,3 @@
+time CLK => Q
+0    L      U
+100  H      U

@@ -1,0 +1,16 @@
+time clk u._OE D  ==(dT)=> Q
+0    L   L     A5 28       UUUUUUUU
+100  H   L     A5 28       A5
+200  H   Z     A5 28       A5
+300  L   Z     3C 28       A5
+# stored, but not yet written
+400  H   Z     3C 28       A5
+500  H   L     3C 28       3C
+600  H   H     3C 28       ZZZZZZZZ
+700  H   X     3C 28       ZZZZZZZZ
+800  L   X     0F 28       ZZZZZZZZ
+900  H   X     0F 28       ZZZZZZZZ
+1000 H   L     0F 28       0F
+1100 H   U     0F 28       UUUUUUUU
+1200 H   Z     0F 28       UUUUUUUU
+1300 H   L     0F 28       0F

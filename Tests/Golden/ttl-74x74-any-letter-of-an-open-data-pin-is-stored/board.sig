@@ -1,0 +1,11 @@
+time _SD _CD CP u.D1 ==(dT)=> u.Q1 u._Q1
+0    H   L   L  H    35       L    H
+100  H   H   L  H    35       L    H
+200  H   H   H  H    35       H    L
+300  H   H   L  Z    35       H    L
+400  H   H   H  Z    35       Z    U
+500  H   H   L  L    35       Z    U
+600  H   H   H  L    35       L    H
+700  H   H   L  X    35       L    H
+800  H   H   H  X    35       X    U
+900  H   L   H  X    35       L    H

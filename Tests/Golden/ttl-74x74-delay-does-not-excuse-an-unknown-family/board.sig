@@ -1,0 +1,3 @@
+time CP => Q
+0    L     U
+100  H     U
