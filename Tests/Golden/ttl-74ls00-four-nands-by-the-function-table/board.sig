@@ -1,0 +1,35 @@
+time A1 B1 A2 B2 A3 B3 A4 B4 ==(dT)=> Y1 Y2 Y3 Y4
+# each gate goes through all pairs, and no two gates ever have the same pair
+0    L  L  H  H  U  U  Z  Z  10       H  L  U  U
+100  L  H  H  U  U  Z  L  L  10       H  U  U  H
+200  L  U  H  Z  Z  L  L  H  10       H  U  H  H
+300  L  Z  U  L  Z  H  L  U  10       H  H  U  H
+400  H  L  U  H  Z  U  L  Z  10       H  U  U  H
+500  H  H  U  U  Z  Z  H  L  10       L  U  U  H
+600  H  U  U  Z  L  L  H  H  10       U  U  H  L
+700  H  Z  Z  L  L  H  H  U  10       U  H  H  U
+800  U  L  Z  H  L  U  H  Z  10       H  U  H  U
+900  U  H  Z  U  L  Z  U  L  10       U  U  H  H
+1000 U  U  Z  Z  H  L  U  H  10       U  U  H  U
+1100 U  Z  L  L  H  H  U  U  10       U  H  L  U
+1200 Z  L  L  H  H  U  U  Z  10       H  H  U  U
+1300 Z  H  L  U  H  Z  Z  L  10       U  H  U  H
+1400 Z  U  L  Z  U  L  Z  H  10       U  H  H  U
+1500 Z  Z  H  L  U  H  Z  U  10       U  H  U  U
+# one input alone, of all low and of all high
+1600 H  L  L  L  L  L  L  L  10       H  H  H  H
+1700 L  H  L  L  L  L  L  L  10       H  H  H  H
+1800 L  L  H  L  L  L  L  L  10       H  H  H  H
+1900 L  L  L  H  L  L  L  L  10       H  H  H  H
+2000 L  L  L  L  H  L  L  L  10       H  H  H  H
+2100 L  L  L  L  L  H  L  L  10       H  H  H  H
+2200 L  L  L  L  L  L  H  L  10       H  H  H  H
+2300 L  L  L  L  L  L  L  H  10       H  H  H  H
+2400 L  H  H  H  H  H  H  H  10       H  L  L  L
+2500 H  L  H  H  H  H  H  H  10       H  L  L  L
+2600 H  H  L  H  H  H  H  H  10       L  H  L  L
+2700 H  H  H  L  H  H  H  H  10       L  H  L  L
+2800 H  H  H  H  L  H  H  H  10       L  L  H  L
+2900 H  H  H  H  H  L  H  H  10       L  L  H  L
+3000 H  H  H  H  H  H  L  H  10       L  L  L  H
+3100 H  H  H  H  H  H  H  L  10       L  L  L  H

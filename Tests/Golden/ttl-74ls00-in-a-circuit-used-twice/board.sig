@@ -1,0 +1,13 @@
+time a b c ==(dT)=> ab abc
+0    L L L 54       L  L
+100  L L H 54       L  H
+200  L H L 54       H  H
+300  L H H 54       H  L
+400  H L L 54       H  H
+500  H L H 54       H  L
+600  H H L 54       L  L
+700  H H H 54       L  H
+800  U H L 54       U  U
+900  L U H 54       U  U
+1000 H L U 54       H  U
+1100 H L H 54       H  L

@@ -1,0 +1,19 @@
+time A => u.Y1 u.Y2 u.Y3 u.Y4 u.Y5 u.Y6 v.Y1 v.Y2 v.Y3 v.Y4 v.Y5 v.Y6 w.Y1 w.Y2 w.Y3 w.Y4 w.Y5 w.Y6
+0    L    U    U    U    U    U    U    U    U    U    U    U    U    H    H    H    H    H    H
+3    L    U    U    U    U    U    U    U    U    U    U    U    U    H    H    H    H    H    H
+4    L    U    U    U    U    U    U    H    H    H    H    H    H    H    H    H    H    H    H
+9    L    U    U    U    U    U    U    H    H    H    H    H    H    H    H    H    H    H    H
+10   L    H    H    H    H    H    H    H    H    H    H    H    H    H    H    H    H    H    H
+100  H    H    H    H    H    H    H    H    H    H    H    H    H    L    L    L    L    L    L
+103  H    H    H    H    H    H    H    H    H    H    H    H    H    L    L    L    L    L    L
+104  H    H    H    H    H    H    H    L    L    L    L    L    L    L    L    L    L    L    L
+109  H    H    H    H    H    H    H    L    L    L    L    L    L    L    L    L    L    L    L
+110  H    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L
+200  L    L    L    L    L    L    L    L    L    L    L    L    L    H    H    H    H    H    H
+201  H    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L
+203  H    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L
+204  H    L    L    L    L    L    L    H    H    H    H    H    H    L    L    L    L    L    L
+205  H    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L
+209  H    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L
+210  H    H    H    H    H    H    H    L    L    L    L    L    L    L    L    L    L    L    L
+211  H    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L    L

@@ -1,0 +1,35 @@
+time A1 B1 A2 B2 A3 B3 A4 B4 ==(dT)=> Y1 Y2 Y3 Y4
+# each gate goes through all pairs, and no two gates ever have the same pair
+0    L  L  H  H  U  U  Z  Z  13       L  H  U  U
+100  L  H  H  U  U  Z  L  L  13       L  U  U  L
+200  L  U  H  Z  Z  L  L  H  13       L  U  L  L
+300  L  Z  U  L  Z  H  L  U  13       L  L  U  L
+400  H  L  U  H  Z  U  L  Z  13       L  U  U  L
+500  H  H  U  U  Z  Z  H  L  13       H  U  U  L
+600  H  U  U  Z  L  L  H  H  13       U  U  L  H
+700  H  Z  Z  L  L  H  H  U  13       U  L  L  U
+800  U  L  Z  H  L  U  H  Z  13       L  U  L  U
+900  U  H  Z  U  L  Z  U  L  13       U  U  L  L
+1000 U  U  Z  Z  H  L  U  H  13       U  U  L  U
+1100 U  Z  L  L  H  H  U  U  13       U  L  H  U
+1200 Z  L  L  H  H  U  U  Z  13       L  L  U  U
+1300 Z  H  L  U  H  Z  Z  L  13       U  L  U  L
+1400 Z  U  L  Z  U  L  Z  H  13       U  L  L  U
+1500 Z  Z  H  L  U  H  Z  U  13       U  L  U  U
+# one input alone, of all low and of all high
+1600 H  L  L  L  L  L  L  L  13       L  L  L  L
+1700 L  H  L  L  L  L  L  L  13       L  L  L  L
+1800 L  L  H  L  L  L  L  L  13       L  L  L  L
+1900 L  L  L  H  L  L  L  L  13       L  L  L  L
+2000 L  L  L  L  H  L  L  L  13       L  L  L  L
+2100 L  L  L  L  L  H  L  L  13       L  L  L  L
+2200 L  L  L  L  L  L  H  L  13       L  L  L  L
+2300 L  L  L  L  L  L  L  H  13       L  L  L  L
+2400 L  H  H  H  H  H  H  H  13       L  H  H  H
+2500 H  L  H  H  H  H  H  H  13       L  H  H  H
+2600 H  H  L  H  H  H  H  H  13       H  L  H  H
+2700 H  H  H  L  H  H  H  H  13       H  L  H  H
+2800 H  H  H  H  L  H  H  H  13       H  H  L  H
+2900 H  H  H  H  H  L  H  H  13       H  H  L  H
+3000 H  H  H  H  H  H  L  H  13       H  H  H  L
+3100 H  H  H  H  H  H  H  L  13       H  H  H  L

@@ -1,0 +1,31 @@
+time C B A _GL G1 _G2 => Y
+# the address of the last ns at which _GL was low counts
+0    H H H L   H  L      UUUUUUUU
+37   H H H L   H  L      UUUUUUUU
+38   H H H L   H  L      LHHHHHHH
+100  H H H U   H  L      LHHHHHHH
+137  H H H U   H  L      LHHHHHHH
+138  H H H U   H  L      HHHHHHHH
+200  L L L U   H  L      HHHHHHHH
+237  L L L U   H  L      HHHHHHHH
+238  L L L U   H  L      HHHHHHHH
+300  L L L H   H  L      HHHHHHHH
+337  L L L H   H  L      HHHHHHHH
+338  L L L H   H  L      LHHHHHHH
+# a closed latch outlasts a floating enable
+400  L L L Z   H  L      LHHHHHHH
+437  L L L Z   H  L      LHHHHHHH
+438  L L L Z   H  L      HHHHHHHH
+500  L H H H   H  L      HHHHHHHH
+537  L H H H   H  L      HHHHHHHH
+538  L H H H   H  L      LHHHHHHH
+# 1 ns open, then undefined, then floating
+600  L H H L   H  L      LHHHHHHH
+601  L H L U   H  L      LHHHHHHH
+602  L L L Z   H  L      LHHHHHHH
+603  H H H H   H  L      LHHHHHHH
+637  H H H H   H  L      LHHHHHHH
+638  H H H H   H  L      HHHHLHHH
+639  H H H H   H  L      HHHHHHHH
+640  H H H H   H  L      HHHHHHHH
+641  H H H H   H  L      HHHHLHHH

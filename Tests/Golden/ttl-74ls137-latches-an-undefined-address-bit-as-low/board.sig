@@ -1,0 +1,12 @@
+time C B A _GL G1 _G2 ==(dT)=> Y
+0    H U H L   H  L   38       HHLHHHHH
+100  H H H H   H  L   38       HHLHHHHH
+200  U H H L   H  L   38       HHHHLHHH
+300  H H H H   H  L   38       HHHHLHHH
+400  H H Z L   H  L   38       HLHHHHHH
+500  L L L H   H  L   38       HLHHHHHH
+600  U U U L   H  L   38       HHHHHHHL
+700  H H H H   H  L   38       HHHHHHHL
+800  H H H L   H  L   38       LHHHHHHH
+900  Z Z Z H   H  L   38       LHHHHHHH
+1000 U U U H   H  L   38       LHHHHHHH

@@ -1,0 +1,30 @@
+time C B A _GL G1 _G2 ==(dT)=> Y
+0    L L L L   H  L   38       HHHHHHHL
+100  L L H L   H  L   38       HHHHHHLH
+200  L H L L   H  L   38       HHHHHLHH
+300  L H H L   H  L   38       HHHHLHHH
+400  H L L L   H  L   38       HHHLHHHH
+500  H L H L   H  L   38       HHLHHHHH
+600  H H L L   H  L   38       HLHHHHHH
+700  H H H L   H  L   38       LHHHHHHH
+800  H L H L   H  L   38       HHLHHHHH
+900  L H L L   H  L   38       HHHHHLHH
+1000 H H H L   H  L   38       LHHHHHHH
+1100 L L L L   H  L   38       HHHHHHHL
+# an undefined or floating address bit counts as low
+1200 H H U L   H  L   38       HLHHHHHH
+1300 H U H L   H  L   38       HHLHHHHH
+1400 U H H L   H  L   38       HHHHLHHH
+1500 H H Z L   H  L   38       HLHHHHHH
+1600 H Z H L   H  L   38       HHLHHHHH
+1700 Z H H L   H  L   38       HHHHLHHH
+1800 U U U L   H  L   38       HHHHHHHL
+1900 Z Z Z L   H  L   38       HHHHHHHL
+2000 L L U L   H  L   38       HHHHHHHL
+2100 U U H L   H  L   38       HHHHHHLH
+2200 H Z U L   H  L   38       HHHLHHHH
+# disabled
+2300 H H H L   L  L   38       HHHHHHHH
+2400 H H H L   L  H   38       HHHHHHHH
+2500 H H H L   H  H   38       HHHHHHHH
+2600 H H H L   H  L   38       LHHHHHHH

@@ -1,0 +1,31 @@
+time D C B A _G1 _G2 ==(dT)=> Y                Y0 Y1 Y2 Y3 Y4 Y5 Y6 Y7 Y8 Y9 Y10 Y11 Y12 Y13 Y14 Y15
+0    H L H L L   L   23       HHHHHLHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  L   H   H   H   H   H
+100  U L H L L   L   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+200  H U H L L   L   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+300  H L U L L   L   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+400  H L H U L   L   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+500  Z L H L L   L   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+600  H Z H L L   L   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+700  H L Z L L   L   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+800  H L H Z L   L   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+900  H L H L L   L   23       HHHHHLHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  L   H   H   H   H   H
+1000 U U U U L   L   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+1100 Z Z Z Z L   L   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+# disabled
+1200 H L H L H   L   23       HHHHHHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   H   H   H   H   H
+1300 U H L H H   L   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+1400 L U L H H   L   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+1500 L H U H H   L   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+1600 L H L U H   L   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+1700 Z H L H L   H   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+1800 L Z L H L   H   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+1900 L H Z H L   H   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+2000 L H L Z L   H   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+2100 L H L H H   H   23       HHHHHHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   H   H   H   H   H
+2200 U U U U H   H   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+2300 L H L H H   L   23       HHHHHHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   H   H   H   H   H
+2400 H L H L L   L   23       HHHHHLHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  L   H   H   H   H   H
+# together with an undefined enable
+2500 H L U L U   L   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+2600 H L H Z H   Z   23       UUUUUUUUUUUUUUUU U  U  U  U  U  U  U  U  U  U  U   U   U   U   U   U
+2700 H L H L L   L   23       HHHHHLHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  L   H   H   H   H   H

@@ -1,0 +1,40 @@
+time D C B A _G1 _G2 ==(dT)=> Y                Y0 Y1 Y2 Y3 Y4 Y5 Y6 Y7 Y8 Y9 Y10 Y11 Y12 Y13 Y14 Y15
+# up
+0    L L L L L   L   23       HHHHHHHHHHHHHHHL L  H  H  H  H  H  H  H  H  H  H   H   H   H   H   H
+100  L L L H L   L   23       HHHHHHHHHHHHHHLH H  L  H  H  H  H  H  H  H  H  H   H   H   H   H   H
+200  L L H L L   L   23       HHHHHHHHHHHHHLHH H  H  L  H  H  H  H  H  H  H  H   H   H   H   H   H
+300  L L H H L   L   23       HHHHHHHHHHHHLHHH H  H  H  L  H  H  H  H  H  H  H   H   H   H   H   H
+400  L H L L L   L   23       HHHHHHHHHHHLHHHH H  H  H  H  L  H  H  H  H  H  H   H   H   H   H   H
+500  L H L H L   L   23       HHHHHHHHHHLHHHHH H  H  H  H  H  L  H  H  H  H  H   H   H   H   H   H
+600  L H H L L   L   23       HHHHHHHHHLHHHHHH H  H  H  H  H  H  L  H  H  H  H   H   H   H   H   H
+700  L H H H L   L   23       HHHHHHHHLHHHHHHH H  H  H  H  H  H  H  L  H  H  H   H   H   H   H   H
+800  H L L L L   L   23       HHHHHHHLHHHHHHHH H  H  H  H  H  H  H  H  L  H  H   H   H   H   H   H
+900  H L L H L   L   23       HHHHHHLHHHHHHHHH H  H  H  H  H  H  H  H  H  L  H   H   H   H   H   H
+1000 H L H L L   L   23       HHHHHLHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  L   H   H   H   H   H
+1100 H L H H L   L   23       HHHHLHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   L   H   H   H   H
+1200 H H L L L   L   23       HHHLHHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   H   L   H   H   H
+1300 H H L H L   L   23       HHLHHHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   H   H   L   H   H
+1400 H H H L L   L   23       HLHHHHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   H   H   H   L   H
+1500 H H H H L   L   23       LHHHHHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   H   H   H   H   L
+# in leaps
+1600 L H L H L   L   23       HHHHHHHHHHLHHHHH H  H  H  H  H  L  H  H  H  H  H   H   H   H   H   H
+1700 H H L L L   L   23       HHHLHHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   H   L   H   H   H
+1800 L L H H L   L   23       HHHHHHHHHHHHLHHH H  H  H  L  H  H  H  H  H  H  H   H   H   H   H   H
+1900 H L H L L   L   23       HHHHHLHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  L   H   H   H   H   H
+2000 L L L H L   L   23       HHHHHHHHHHHHHHLH H  L  H  H  H  H  H  H  H  H  H   H   H   H   H   H
+2100 H L L L L   L   23       HHHHHHHLHHHHHHHH H  H  H  H  H  H  H  H  L  H  H   H   H   H   H   H
+2200 H H H H L   L   23       LHHHHHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   H   H   H   H   L
+2300 L H H L L   L   23       HHHHHHHHHLHHHHHH H  H  H  H  H  H  L  H  H  H  H   H   H   H   H   H
+2400 H H L H L   L   23       HHLHHHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   H   H   L   H   H
+2500 L H L L L   L   23       HHHHHHHHHHHLHHHH H  H  H  H  L  H  H  H  H  H  H   H   H   H   H   H
+2600 H L H H L   L   23       HHHHLHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   L   H   H   H   H
+2700 L L H L L   L   23       HHHHHHHHHHHHHLHH H  H  L  H  H  H  H  H  H  H  H   H   H   H   H   H
+2800 H L L H L   L   23       HHHHHHLHHHHHHHHH H  H  H  H  H  H  H  H  H  L  H   H   H   H   H   H
+2900 L L L L L   L   23       HHHHHHHHHHHHHHHL L  H  H  H  H  H  H  H  H  H  H   H   H   H   H   H
+3000 L H H H L   L   23       HHHHHHHHLHHHHHHH H  H  H  H  H  H  H  L  H  H  H   H   H   H   H   H
+3100 H H H L L   L   23       HLHHHHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   H   H   H   L   H
+# disabled
+3200 H H H H L   H   23       HHHHHHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   H   H   H   H   H
+3300 H H H H H   L   23       HHHHHHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   H   H   H   H   H
+3400 H H H H H   H   23       HHHHHHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   H   H   H   H   H
+3500 H H H H L   L   23       LHHHHHHHHHHHHHHH H  H  H  H  H  H  H  H  H  H  H   H   H   H   H   L

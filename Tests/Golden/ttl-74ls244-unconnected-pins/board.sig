@@ -1,0 +1,5 @@
+time _G A ==(dT)=> u.1Y u.2Y v.1Y v.2Y
+0    L  5 33       UUUU UUUU UUUU UUUU
+100  H  5 33       UUUU ZZZZ ZZZZ UUUU
+200  L  A 33       UUUU UUUU UUUU UUUU
+300  H  A 33       UUUU ZZZZ ZZZZ UUUU

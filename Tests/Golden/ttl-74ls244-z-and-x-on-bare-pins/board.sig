@@ -1,0 +1,10 @@
+time u.1_G u.1A u.2_G u.2A ==(dT)=> u.1Y u.2Y
+0    Z     5    X     A    33       LHLH HLHL
+100  H     5    Z     A    33       ZZZZ HLHL
+200  Z     3    H     C    33       LLHH ZZZZ
+300  U     3    Z     C    33       UUUU HHLL
+400  L     LZHL L     ZZZZ 33       LZHL ZZZZ
+500  L     ZUHL L     HUZZ 33       ZUHL HUZZ
+600  L     LXHL L     HHHX 33       LXHL HHHX
+700  H     XXXX X     ZXUH 33       ZZZZ ZXUH
+800  L     0    L     F    33       LLLL HHHH

@@ -1,0 +1,30 @@
+time A B cin => u.C  u.cout v.C  v.cout w.C  w.cout
+0    3 4 L      UUUU U      UUUU U      LHHH L
+10   3 4 L      UUUU U      UUUU U      LHHH L
+11   3 4 L      UUUU U      LHHH L      LHHH L
+23   3 4 L      UUUU U      LHHH L      LHHH L
+24   3 4 L      LHHH L      LHHH L      LHHH L
+100  F 4 L      LHHH L      LHHH L      LLHH H
+110  F 4 L      LHHH L      LHHH L      LLHH H
+111  F 4 L      LHHH L      LLHH H      LLHH H
+123  F 4 L      LHHH L      LLHH H      LLHH H
+124  F 4 L      LLHH H      LLHH H      LLHH H
+200  F 0 H      LLHH H      LLHH H      LLLL H
+210  F 0 H      LLHH H      LLHH H      LLLL H
+211  F 0 H      LLHH H      LLLL H      LLLL H
+223  F 0 H      LLHH H      LLLL H      LLLL H
+224  F 0 H      LLLL H      LLLL H      LLLL H
+300  F 0 L      LLLL H      LLLL H      HHHH L
+310  F 0 L      LLLL H      LLLL H      HHHH L
+311  F 0 L      LLLL H      HHHH L      HHHH L
+323  F 0 L      LLLL H      HHHH L      HHHH L
+324  F 0 L      HHHH L      HHHH L      HHHH L
+# operands that stand for 1 ns
+400  F F H      HHHH L      HHHH L      HHHH H
+401  1 1 L      HHHH L      HHHH L      LLHL L
+410  1 1 L      HHHH L      HHHH L      LLHL L
+411  1 1 L      HHHH L      HHHH H      LLHL L
+412  1 1 L      HHHH L      LLHL L      LLHL L
+423  1 1 L      HHHH L      LLHL L      LLHL L
+424  1 1 L      HHHH H      LLHL L      LLHL L
+425  1 1 L      LLHL L      LLHL L      LLHL L

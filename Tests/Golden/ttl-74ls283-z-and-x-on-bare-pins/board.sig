@@ -1,0 +1,14 @@
+time u.A  u.B  u.cin ==(dT)=> u.C  u.cout
+0    1    2    L     24       LLHH L
+100  LLLZ 2    L     24       UUUU U
+200  1    2    H     24       LHLL L
+300  XLLL 2    H     24       UUUU U
+400  7    8    L     24       HHHH L
+500  7    LLZL L     24       UUUU U
+600  7    8    H     24       LLLL H
+700  7    LHXL H     24       UUUU U
+800  9    9    L     24       LLHL H
+900  9    9    Z     24       UUUU U
+1000 9    9    H     24       LLHH H
+1100 9    9    X     24       UUUU U
+1200 F    F    H     24       HHHH H

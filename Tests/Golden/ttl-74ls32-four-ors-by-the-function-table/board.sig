@@ -1,0 +1,35 @@
+time A1 B1 A2 B2 A3 B3 A4 B4 ==(dT)=> Y1 Y2 Y3 Y4
+# each gate goes through all pairs, and no two gates ever have the same pair
+0    L  L  H  H  U  U  Z  Z  14       L  H  U  U
+100  L  H  H  U  U  Z  L  L  14       H  H  U  L
+200  L  U  H  Z  Z  L  L  H  14       U  H  U  H
+300  L  Z  U  L  Z  H  L  U  14       U  U  H  U
+400  H  L  U  H  Z  U  L  Z  14       H  H  U  U
+500  H  H  U  U  Z  Z  H  L  14       H  U  U  H
+600  H  U  U  Z  L  L  H  H  14       H  U  L  H
+700  H  Z  Z  L  L  H  H  U  14       H  U  H  H
+800  U  L  Z  H  L  U  H  Z  14       U  H  U  H
+900  U  H  Z  U  L  Z  U  L  14       H  U  U  U
+1000 U  U  Z  Z  H  L  U  H  14       U  U  H  H
+1100 U  Z  L  L  H  H  U  U  14       U  L  H  U
+1200 Z  L  L  H  H  U  U  Z  14       U  H  H  U
+1300 Z  H  L  U  H  Z  Z  L  14       H  U  H  U
+1400 Z  U  L  Z  U  L  Z  H  14       U  U  U  H
+1500 Z  Z  H  L  U  H  Z  U  14       U  H  H  U
+# one input alone, of all low and of all high
+1600 H  L  L  L  L  L  L  L  14       H  L  L  L
+1700 L  H  L  L  L  L  L  L  14       H  L  L  L
+1800 L  L  H  L  L  L  L  L  14       L  H  L  L
+1900 L  L  L  H  L  L  L  L  14       L  H  L  L
+2000 L  L  L  L  H  L  L  L  14       L  L  H  L
+2100 L  L  L  L  L  H  L  L  14       L  L  H  L
+2200 L  L  L  L  L  L  H  L  14       L  L  L  H
+2300 L  L  L  L  L  L  L  H  14       L  L  L  H
+2400 L  H  H  H  H  H  H  H  14       H  H  H  H
+2500 H  L  H  H  H  H  H  H  14       H  H  H  H
+2600 H  H  L  H  H  H  H  H  14       H  H  H  H
+2700 H  H  H  L  H  H  H  H  14       H  H  H  H
+2800 H  H  H  H  L  H  H  H  14       H  H  H  H
+2900 H  H  H  H  H  L  H  H  14       H  H  H  H
+3000 H  H  H  H  H  H  L  H  14       H  H  H  H
+3100 H  H  H  H  H  H  H  L  14       H  H  H  H

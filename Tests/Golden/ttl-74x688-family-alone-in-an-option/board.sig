@@ -1,0 +1,5 @@
+# A key alone means true, which is no family.
+u(family)
+time _G P  Q  ==(dT)=> u._P=Q
+0    L  11 11 25       L
+100  L  11 12 25       H

@@ -1,0 +1,13 @@
+time u._G u.P      u.Q      ==(dT)=> u._P=Q
+0    L    12       12       25       L
+100  Z    12       12       25       U
+200  H    12       12       25       H
+300  X    12       12       25       U
+400  L    12       12       25       L
+500  L    LLLZLLHL 12       25       U
+600  L    12       13       25       H
+700  L    12       LLLHLLXL 25       U
+800  L    LLLZLLHL LLLZLLHL 25       U
+900  H    LLLZLLHL 12       25       H
+1000 H    XXXXXXXX ZZZZZZZZ 25       H
+1100 L    12       12       25       L
