@@ -1,0 +1,3 @@
+time a => q    some
+0    5    UUUU 5
+10   A    UUUU A

@@ -1,0 +1,20 @@
+time a  => mid  hi lo late
+0    LH    UUUU U  U  U
+2    LH    UUUU U  U  U
+3    LH    LHHL L  H  U
+6    LH    LHHL L  H  U
+7    LH    LHHL L  H  L
+10   HL    LHHL L  H  L
+12   HL    LHHL L  H  L
+13   HL    HLLH H  L  L
+16   HL    HLLH H  L  L
+17   HL    HLLH H  L  H
+# A pulse of one nanosecond.
+30   LL    HLLH H  L  H
+31   HL    HLLH H  L  H
+32   HL    HLLH H  L  H
+33   HL    LLLL L  L  H
+34   HL    HLLH H  L  H
+36   HL    HLLH H  L  H
+37   HL    HLLH H  L  L
+38   HL    HLLH H  L  H

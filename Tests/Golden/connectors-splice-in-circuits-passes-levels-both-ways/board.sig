@@ -1,0 +1,9 @@
+time a        b  _ga _gb ==(dT)=> left     right    x
+0    A5       3C L   H   10       A5       5A       A
+20   17       3C L   H   10       17       71       1
+40   17       3C H   L   10       C3       3C       C
+60   17       9E H   L   10       E9       9E       E
+80   17       9E H   H   10       ZZZZZZZZ ZZZZZZZZ ZZZZ
+100  17       71 L   L   10       UUUUUUUU UUUUUUUU UUUU
+120  80       71 L   H   10       80       08       8
+140  HLHULLLL 71 L   H   10       HLHULLLL LLLLHLHU HLHU

@@ -1,0 +1,4 @@
+k(value=9)
+time idle => q
+0    L       5
+100  H       5

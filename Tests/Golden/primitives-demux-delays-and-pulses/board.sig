@@ -1,0 +1,28 @@
+# From the start.
+time x S => y0   y4   y10
+0    L 1    HHLH UUUU UUUU
+3    L 1    HHLH UUUU UUUU
+4    L 1    HHLH HHLH UUUU
+9    L 1    HHLH HHLH UUUU
+10   L 1    HHLH HHLH HHLH
+# Another selection.
+100  L 2    HLHH HHLH HHLH
+103  L 2    HLHH HHLH HHLH
+104  L 2    HLHH HLHH HHLH
+109  L 2    HLHH HLHH HHLH
+110  L 2    HLHH HLHH HLHH
+# Disabled.
+200  H 2    HHHH HLHH HLHH
+203  H 2    HHHH HLHH HLHH
+204  H 2    HHHH HHHH HLHH
+209  H 2    HHHH HHHH HLHH
+210  H 2    HHHH HHHH HHHH
+# Enabled for a nanosecond, with another selection.
+300  L 3    LHHH HHHH HHHH
+301  H 3    HHHH HHHH HHHH
+303  H 3    HHHH HHHH HHHH
+304  H 3    HHHH LHHH HHHH
+305  H 3    HHHH HHHH HHHH
+309  H 3    HHHH HHHH HHHH
+310  H 3    HHHH HHHH LHHH
+311  H 3    HHHH HHHH HHHH

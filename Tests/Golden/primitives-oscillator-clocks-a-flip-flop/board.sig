@@ -1,0 +1,19 @@
+time reset => clk Q _Q
+0    H        L   U U
+50   H        H   U U
+59   H        H   U U
+60   H        H   L H
+99   H        H   L H
+100  L        L   L H
+150  L        H   L H
+159  L        H   L H
+160  L        H   H L
+200  L        L   H L
+250  L        H   H L
+259  L        H   H L
+260  L        H   L H
+350  L        H   L H
+359  L        H   L H
+360  L        H   H L
+459  L        H   H L
+460  L        H   L H

@@ -1,0 +1,19 @@
+time idle => c1 c2 p1 _p1 p2 _p2
+0    L       L  L  H  U   H  U
+2    L       L  L  H  U   H  U
+3    L       L  L  H  L   H  L
+24   L       L  L  H  L   H  L
+25   L       L  L  L  L   L  L
+27   L       L  L  L  L   L  L
+28   L       L  L  L  H   L  H
+29   L       L  L  L  H   L  H
+30   L       H  H  L  H   L  H
+50   L       H  H  H  H   H  H
+52   L       H  H  H  H   H  H
+53   L       H  H  H  L   H  L
+79   L       H  H  L  H   L  H
+80   L       L  L  L  H   L  H
+129  L       L  L  L  H   L  H
+130  L       H  H  L  H   L  H
+180  L       L  L  L  H   L  H
+200  L       L  L  H  H   H  H

@@ -1,0 +1,20 @@
+time idle => usual.out hex.out last.out beyond.out
+0    L       L         L       L        L
+99   L       L         L       L        L
+100  L       H         L       L        L
+499  L       H         L       L        L
+500  L       H         H       L        L
+599  L       H         H       L        L
+600  L       L         H       L        L
+999  L       L         H       L        L
+1000 L       L         L       L        L
+1099 L       L         L       L        L
+1100 L       H         L       L        L
+1500 L       H         H       L        L
+1599 L       H         H       L        L
+1600 L       L         H       L        L
+2000 L       L         L       L        L
+2099 L       L         L       L        L
+2100 L       H         L       L        L
+2499 L       H         L       L        L
+2500 L       H         H       H        L
