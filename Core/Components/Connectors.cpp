@@ -26,11 +26,11 @@ std::uint32_t Connector::requireSize(const char* sizeKey, const char* message) c
 void Connector::declarePorts(const std::string& sizeKey, std::uint32_t size, Direction direction) {
     for (const auto& [name, text] : getParameters().map()) {
         if (name == sizeKey) continue;
-        auto bits = std::make_unique<const PinSpec>(text);
-        if (bits->maxBit() >= static_cast<std::int32_t>(size)) {
+        if (PinSpec::maxBitOf(text) >= static_cast<std::int32_t>(size)) {
             throw Error("Port '%s' (%s) is too big to fit into size %d.", name.c_str(), text.c_str(),
                         static_cast<int>(size));
         }
+        auto bits = std::make_unique<const PinSpec>(text);
         if (bits->size() > kMaxValueWidth) {
             throw Error("Error: %s '%s': port '%s' has %zu bits, but %u is the limit.", getType().c_str(),
                         getName().c_str(), name.c_str(), bits->size(), kMaxValueWidth);
@@ -72,6 +72,10 @@ void Join::evaluate(Time time) {
     Value joined(out->width());
     for (const Mapping& mapping : mappings()) {
         const Value part = mapping.port->get(time);
+        if (part.width() > joined.width()) {  // only a port without any text takes what comes
+            throw Error("Error: Join '%s': %u bits arrive at port '%s', but 'out' has only %u.", getName().c_str(),
+                        part.width(), mapping.port->getName().c_str(), joined.width());
+        }
         for (std::size_t i = 0; i < part.width(); ++i) joined[mapping.busBit(i)] = part[i];
     }
     out->set(joined, time);
@@ -93,6 +97,7 @@ void Split::inputChanged(Port* /*port*/, const Value& /*oldValue*/, const Value&
 void Split::evaluate(Time time) {
     const Value whole = in->get(time);
     for (const Mapping& mapping : mappings()) {
+        if (mapping.port->width() == 0) continue;  // declared without any text: it has nothing to show
         Value part(mapping.port->width());
         for (std::size_t i = 0; i < part.width(); ++i) part[i] = whole[mapping.busBit(i)];
         mapping.port->set(part, time);

@@ -15,8 +15,8 @@ namespace tarnsim {
 
 /// What the parts that move bits between buses have in common: one parameter gives the width of a bus in bits (1 to
 /// 255), and every other one declares a port, by its name and the bits of that bus (a PinSpec) that are the port's. A
-/// port is as wide as its bits are many; one without any text names all bits as they come, and gets its width from what
-/// arrives there.
+/// port is as wide as its bits are many; one without any text names all bits as they come and has no width until a
+/// value arrives there.
 ///
 /// The ports stand when the part is made; parameters that change later have no effect. No part here has a delay.
 /// Everything wrong with the parameters is an Error at once.

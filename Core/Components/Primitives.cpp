@@ -26,6 +26,11 @@ std::uint32_t BusBuffer::readSize() const {
     return size;
 }
 
+void BusBuffer::applyParameters() {
+    Chip::applyParameters();
+    readSize();
+}
+
 void BusBuffer::evaluate(Time time) {
     const Time then = inputTime(time);
     switch (g.level(then)) {

@@ -27,7 +27,8 @@ private:
     Pin& out = outputPin("out");
 };
 
-/// The same for a bus of `size` bits, 1 to 255. The width is fixed when the part is made.
+/// The same for a bus of `size` bits, 1 to 255. The width is fixed when the part is made: a size that is applied later
+/// is read, so that nonsense is reported, and changes nothing.
 class BusBuffer final : public Chip<BusBuffer> {
 public:
     static constexpr PartInfo info = {"BusBuffer", "(delay=10,size=8)",
@@ -39,6 +40,7 @@ public:
     BusBuffer(const std::string& name, std::uint32_t delay, std::uint32_t size);
 
     void evaluate(Time time) override;
+    void applyParameters() override;
 
 private:
     std::uint32_t readSize() const;

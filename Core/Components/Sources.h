@@ -45,8 +45,8 @@ public:
 
 /// A bus `out` of `size` bits, 1 to 255, that holds the number `value` for ever. Driven as a level source is.
 ///
-/// The number is cut to `size mod 32` bits and then meets the limits of Value::setNumber: sizes of 32, 64 and so on
-/// hold 0, and 31, 63 and so on take no number at all and raise std::out_of_range.
+/// The number is cut to `size mod 32` bits and then meets the rules of Value::setNumber: sizes of 32, 64 and so on hold
+/// 0; 31, 63 and so on take no number at all and raise std::out_of_range; wider ones repeat it every 32 bits.
 class Const final : public Component {
 public:
     static constexpr PartInfo info = {"Const", "(size=8,value=255)",

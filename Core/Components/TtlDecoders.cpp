@@ -10,8 +10,8 @@ namespace tarnsim {
 
 namespace {
 
-/// The latest time, from `time` back to 0, at which `pin` was low. Goes back from change to change and not ns by ns:
-/// the latch may have been closed a long time ago.
+/// The latest time, from `time` back to 0, at which `pin` was low. Goes back record by record and not ns by ns: the
+/// latch may have been closed a long time ago.
 std::optional<Time> latestLow(const Pin& pin, Time time) {
     const Net* net = pin.getNet(kOutside);
     const ValueHistory& history = net == nullptr ? static_cast<const ValueHistory&>(pin) : *net;

@@ -18,12 +18,14 @@ char opposite(char letter) {
 }  // namespace
 
 SN74x74::SN74x74(const std::string& name, const ParaMap& parameters) : Chip(name, parameters, ApplyLater()) {
+    setDelay(35);
     SN74x74::applyParameters();
 }
 
 void SN74x74::applyParameters() {
     static constexpr FamilyDelay kFamilies[] = {{"F", 11}, {"AS", 11}, {"ALS", 18}, {"LS", 35}};
-    setDelay(familyDelay(getParameters(), kFamilies, "Error: unknown device family of SN74x74: '%s'.").value_or(35));
+    setDelay(
+        familyDelay(getParameters(), kFamilies, "Error: unknown device family of SN74x74: '%s'.").value_or(getDelay()));
     Chip::applyParameters();
 }
 

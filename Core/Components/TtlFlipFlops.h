@@ -21,7 +21,8 @@ public:
 
     void reset() override;
     void evaluate(Time time) override;
-    /// `delay`, or else the delay of `family`, LS without one. Raises an Error for a family that isn't made.
+    /// `delay`, or else the delay of `family`; without both it stays, at first as in LS. Raises an Error for a family
+    /// that isn't made.
     void applyParameters() override;
     std::string getDescription() const override { return describeDelay(getDelay()); }
 

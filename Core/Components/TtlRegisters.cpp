@@ -6,12 +6,14 @@
 namespace tarnsim {
 
 SN74x174::SN74x174(const std::string& name, const ParaMap& parameters) : Chip(name, parameters, ApplyLater()) {
+    setDelay(35);
     SN74x174::applyParameters();
 }
 
 void SN74x174::applyParameters() {
     static constexpr FamilyDelay kFamilies[] = {{"F", 14}, {"AS", 15}, {"ALS", 30}, {"LS", 35}};
-    setDelay(familyDelay(getParameters(), kFamilies, "Error: unknown device family of SN74x174: '%s'.").value_or(35));
+    setDelay(familyDelay(getParameters(), kFamilies, "Error: unknown device family of SN74x174: '%s'.")
+                 .value_or(getDelay()));
     Chip::applyParameters();
 }
 
@@ -70,8 +72,8 @@ DM74x574::DM74x574(const std::string& name, const ParaMap& parameters) : Circuit
 
 void DM74x574::applyParameters() {
     static constexpr FamilyDelay kFamilies[] = {{"F", 13}, {"AS", 10}, {"ALS", 18}, {"LS", 28}};
-    setDelay(
-        familyDelay(getParameters(), kFamilies, "Error: unknown device family of SN74x574: '%s'.").value_or(kDelay));
+    setDelay(familyDelay(getParameters(), kFamilies, "Error: unknown device family of SN74x574: '%s'.")
+                 .value_or(getDelay()));
     CircuitChip::applyParameters();
 }
 

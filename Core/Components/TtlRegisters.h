@@ -25,7 +25,8 @@ public:
 
     void reset() override;
     void evaluate(Time time) override;
-    /// `delay`, or else the delay of `family`, LS without one. Raises an Error for a family that isn't made.
+    /// `delay`, or else the delay of `family`; without both it stays, at first as in LS. Raises an Error for a family
+    /// that isn't made.
     void applyParameters() override;
     std::string getDescription() const override { return describeDelay(getDelay()); }
 
@@ -110,6 +111,7 @@ public:
     static constexpr std::uint32_t kDelay = 28;
 
     DM74LS374(const std::string& name, const ParaMap& parameters);
+    /// In ns, for the units too.
     DM74LS374(const std::string& name, std::uint32_t delay);
 
     /// The units are scheduled by their own inputs too; that both happens at one time changes nothing.

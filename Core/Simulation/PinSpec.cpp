@@ -1,9 +1,9 @@
 #include "Core/Simulation/PinSpec.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "Core/Support/Error.h"
 #include "Core/Support/Text.h"
@@ -12,37 +12,47 @@ namespace tarnsim {
 
 namespace {
 
-/// No bus comes near to this; a slip of the pen mustn't take all memory.
-constexpr std::int64_t kLongestRange = 1 << 20;
-
 /// Takes a bit number off the front of a segment; characters behind it stay and are the caller's to judge.
 std::optional<std::int32_t> takeBitNumber(std::string_view& segment) {
     const auto number = takeLeadingInteger(segment);
     return number && *number >= 0 ? number : std::nullopt;
 }
 
-/// Appends the bits of one segment in the order of the text. False if it is malformed.
-bool appendSegment(std::string_view segment, std::vector<std::int32_t>& bits) {
+/// The two ends of a segment, which are equal for a single number. Nothing if it is malformed.
+struct Range {
+    std::int32_t first;
+    std::int32_t last;
+};
+std::optional<Range> readSegment(std::string_view segment) {
     const bool isRange = segment.find(':') != std::string_view::npos;
     const auto first = takeBitNumber(segment);
-    if (!first) return false;
-    bits.push_back(*first);
-    if (!isRange) return true;
+    if (!first) return std::nullopt;
+    if (!isRange) return Range{*first, *first};
 
-    if (segment.empty() || segment.front() != ':') return false;
+    if (segment.empty() || segment.front() != ':') return std::nullopt;
     segment.remove_prefix(1);
     const auto last = takeBitNumber(segment);
-    if (!last || std::abs(std::int64_t{*last} - *first) > kLongestRange) return false;
-    const std::int32_t step = *first < *last ? 1 : -1;
-    for (std::int32_t bit = *first; bit != *last;) bits.push_back(bit += step);
-    return true;
+    return last ? std::optional(Range{*first, *last}) : std::nullopt;
+}
+
+/// In the order of the text.
+std::vector<Range> readRanges(const std::string& expression) {
+    std::vector<Range> ranges;
+    for (const std::string& segment : split(expression, ';')) {
+        const auto range = readSegment(segment);
+        if (!range) throw Error("Invalid pin spec expression: '%s'.", expression.c_str());
+        ranges.push_back(*range);
+    }
+    return ranges;
 }
 
 }  // namespace
 
 PinSpec::PinSpec(const std::string& expression) : expression_(expression) {
-    for (const std::string& segment : split(expression, ';')) {
-        if (!appendSegment(segment, bits_)) throw Error("Invalid pin spec expression: '%s'.", expression.c_str());
+    for (const auto& [first, last] : readRanges(expression)) {
+        bits_.push_back(first);
+        const std::int32_t step = first < last ? 1 : -1;
+        for (std::int32_t bit = first; bit != last;) bits_.push_back(bit += step);
     }
     std::ranges::reverse(bits_);
 }
@@ -55,6 +65,12 @@ std::int32_t PinSpec::maxBit() const {
 
 std::int32_t PinSpec::bitAt(std::size_t i) const {
     return bits_.empty() ? static_cast<std::int32_t>(i) : bits_[i];
+}
+
+std::int32_t PinSpec::maxBitOf(const std::string& expression) {
+    std::int32_t highest = 0;
+    for (const auto& [first, last] : readRanges(expression)) highest = std::max({highest, first, last});
+    return highest;
 }
 
 bool PinSpec::contains(std::int32_t bit) const {

@@ -27,6 +27,8 @@ public:
     std::size_t size() const { return bits_.size(); }
     /// The highest bit number; 0 for the identity.
     std::int32_t maxBit() const;
+    /// The same for a text, without making the list: the numbers may be large.
+    static std::int32_t maxBitOf(const std::string& expression);
     /// The net's bit for position `i`. REQUIRES: i < size(), but for the identity.
     std::int32_t bitAt(std::size_t i) const;
     /// Whether the net's `bit` is reached; the identity reaches every bit from 0 on.

@@ -17,9 +17,10 @@ constexpr std::int64_t later(Time time, std::uint32_t delay) {
     return std::int64_t{time} + delay;
 }
 
-/// `time` minus a delay in ns, where an event at `time` was scheduled by that delay.
+/// `time` minus a delay in ns; kEarliestTime if that lies before it, so it never wraps into the future.
 constexpr Time earlier(Time time, std::uint32_t delay) {
-    return static_cast<Time>(static_cast<std::uint32_t>(time) - delay);
+    const std::int64_t result = std::int64_t{time} - delay;
+    return result < kEarliestTime ? kEarliestTime : static_cast<Time>(result);
 }
 
 }  // namespace tarnsim

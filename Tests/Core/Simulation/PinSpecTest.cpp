@@ -76,6 +76,16 @@ TEST(PinSpec, ATrailingSeparatorIsNoFurtherSegment) {
     EXPECT_EQ(PinSpec("1;0;").getExpression(), "1;0;");
 }
 
+TEST(PinSpec, TheHighestBitOfATextIsFoundWithoutItsList) {
+    EXPECT_EQ(PinSpec::maxBitOf(""), 0);
+    EXPECT_EQ(PinSpec::maxBitOf("1;9;3"), 9);
+    EXPECT_EQ(PinSpec::maxBitOf("3:0;2"), 3);
+    EXPECT_EQ(PinSpec::maxBitOf("0:7;2"), 7);
+    EXPECT_EQ(PinSpec::maxBitOf("0:2147483647"), 2147483647);
+    EXPECT_EQ(PinSpec::maxBitOf("2147483646:5;0"), 2147483646);
+    EXPECT_EQ(errorOf([] { PinSpec::maxBitOf("0:2147483647;x"); }), "Invalid pin spec expression: '0:2147483647;x'.");
+}
+
 TEST(PinSpec, AMalformedSegmentIsRefusedWithTheWholeText) {
     for (const std::string expression :
          {"-1",  "a",   "3:",   ":3",   "1;;2", ";",    ";1",     "1;;",    " ", "1; ", "x5",

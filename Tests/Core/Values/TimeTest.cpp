@@ -22,5 +22,14 @@ TEST(Time, ComesBackByTheDelayThatWasAdded) {
     EXPECT_EQ(earlier(5, 0), 5);
 }
 
+TEST(Time, BeforeTheEarliestTimeThereIsOnlyTheEarliest) {
+    EXPECT_EQ(earlier(0, 2147483648U), kEarliestTime);
+    EXPECT_EQ(earlier(0, 2147483649U), kEarliestTime);
+    EXPECT_EQ(earlier(100, 4294967295U), kEarliestTime);
+    EXPECT_EQ(earlier(kEarliestTime, 1), kEarliestTime);
+    EXPECT_EQ(earlier(kLatestTime, 4294967295U), kEarliestTime);
+    EXPECT_EQ(earlier(kLatestTime, 4294967294U), kEarliestTime + 1);
+}
+
 }  // namespace
 }  // namespace tarnsim

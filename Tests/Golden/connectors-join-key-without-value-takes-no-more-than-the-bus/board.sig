@@ -1,0 +1,2 @@
+time x => q
+0    A5   LHLH

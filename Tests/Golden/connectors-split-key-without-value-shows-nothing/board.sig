@@ -1,0 +1,2 @@
+time x => hi y
+0    A5   A  UUUUUUUU
