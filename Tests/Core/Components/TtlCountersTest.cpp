@@ -271,15 +271,15 @@ TEST_F(SynchronousCounter, ReportsAnyClockOrControlThatIsNoLevelAndForgetsItsCou
 TEST_F(SynchronousCounter, ReportsTheClockOfItsLastEvaluationToo) {
     load("LLLLHHHH");
     quietStep("CLK=Z", "QHA");
-    EXPECT_EQ(outputOf([&] { EXPECT_EQ(bench.step("CLK=H", "QHA _RCO"), "UUUUUUUU U"); }),
-              "867: some input is undefined at t=" + std::to_string(bench.now() + 16) +
-                  "/it=" + std::to_string(bench.now()) + ": clk0=Z, clk1=H, s0=L, s1=H, _ent=L, _enp=L\n");
+    const std::string report = outputOf([&] { EXPECT_EQ(bench.step("CLK=H", "QHA _RCO"), "UUUUUUUU U"); });
+    EXPECT_EQ(report, "867: some input is undefined at t=" + std::to_string(bench.now() + 16) +
+                          "/it=" + std::to_string(bench.now()) + ": clk0=Z, clk1=H, s0=L, s1=H, _ent=L, _enp=L\n");
     EXPECT_EQ(outputOf([&] { EXPECT_EQ(bench.step("CLK=L", "QHA _RCO"), "UUUUUUUU U"); }), "");
 }
 
 TEST_F(SynchronousCounter, CountingFromAnUnknownValueIsReportedAndLeavesIt) {
     load("LLUZXLLL");
-    for (const std::string mode : {kUp, kDown}) {
+    for (const std::string& mode : {kUp, kDown}) {
         EXPECT_EQ(bench.step("CLK=L " + mode, "QHA _RCO"), "LLUZXLLL U");
         const std::string word = mode == kUp ? "increment" : "decrement";
         std::string output;
