@@ -154,6 +154,16 @@ TEST(DM74LS374, GivesItsDelayToItsFlipFlops) {
     }
 }
 
+TEST(DM74LS374, EvaluatedItselfWorksItsUnitsFromInputsToOutputs) {
+    DM74LS374 chip("u", 28U);
+    PartBench(chip, 28).expectSteps("Q", {{"_OE=L clk=L D=HLHLHHLL", "UUUUUUUU"},
+                                          {"clk=H", "HLHLHHLL"},
+                                          {"D=LLLLHHHH clk=L", "HLHLHHLL"},
+                                          {"clk=H", "LLLLHHHH"},
+                                          {"_OE=H", "UUUUUUUU"},
+                                          {"_OE=L", "LLLLHHHH"}});
+}
+
 /// One of the two chips with this pin-out, on its own board.
 class OctalRegister {
 public:

@@ -136,7 +136,8 @@ TEST(DFlipFlop, LooksForAnEdgeFromItsLastEvaluationToThePresentOne) {
     bench.set("clk=L", 30);
     bench.set("clk=H", 40);
     bench.set("D=L", 45);
-    flipFlop.evaluate(70);  // the clock at 60 against the one at 0
+    bench.set("D=H", 65);
+    flipFlop.evaluate(70);  // the clock at 60 against the one at 0, with the D of 60
     EXPECT_EQ(bench.read("Q _Q", 70), "L H");
     EXPECT_EQ(bench.read("Q _Q", 69), "U U");
     flipFlop.evaluate(71);  // high both at 60 and 61
@@ -167,6 +168,14 @@ TEST(DFlipFlop, ForgetsItsBitAndItsPortsByReset) {
         bench.reset();
         for (const Port* port : flipFlop.getPorts()) EXPECT_EQ(port->recordCount(), 0U) << port->getName();
     }
+}
+
+TEST(DFlipFlop, HasNoBitInASecondRunThatDoesNotClockIt) {
+    D_flip_flop flipFlop("f", 10U);
+    PartBench bench(flipFlop, 10);
+    bench.expectSteps("Q _Q", {{"clk=L D=H _OE=L", "U U"}, {"clk=H", "H L"}});
+    bench.reset();
+    bench.expectSteps("Q _Q", {{"clk=L D=H _OE=L", "U U"}, {"D=L", "U U"}, {"D=H", "U U"}});
 }
 
 /// A demultiplexer with pins and one with buses, by the same words.

@@ -81,8 +81,9 @@ TEST(SN74x74, ComparesItsClockWithThatOfItsLastEvaluation) {
 
 TEST(SN74x74, HasTheDelayOfItsFamilyUnlessADelayIsGiven) {
     const std::map<std::string, std::uint32_t> delays = {
-        {"(family=F)", 11},         {"(family=AS)", 11},         {"(family=ALS)", 18}, {"(family=LS)", 35},
-        {"(delay=9,family=LS)", 9}, {"(delay=50,family=F)", 50}, {"(delay=12)", 12},   {"(delay=0,family=AS)", 0}};
+        {"(family=F)", 11},  {"(family=AS)", 11},        {"(family=ALS)", 18},
+        {"(family=LS)", 35}, {"(delay=9,family=LS)", 9}, {"(delay=50,family=F)", 50},
+        {"(delay=12)", 12},  {"(delay=0,family=AS)", 0}, {"", 35}};
     for (const auto& [parameters, delay] : delays) {
         SN74x74 chip("u", ParaMap(parameters));
         EXPECT_EQ(chip.getDelay(), delay) << parameters;

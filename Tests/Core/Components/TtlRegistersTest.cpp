@@ -176,9 +176,10 @@ TEST(DM74x574, IsClockedWhileItFloatsAndByTheExactPairLThenHOnly) {
 }
 
 TEST(DM74x574, HasTheDelayOfItsParametersAndThatOfItsFamilyOnlyWithoutOne) {
-    const std::map<std::string, std::uint32_t> delays = {
-        {"(family=F)", 13},         {"(family=AS)", 10},          {"(family=ALS)", 18}, {"(family=LS)", 28},
-        {"(delay=9,family=LS)", 9}, {"(delay=28,family=AS)", 28}, {"(delay=12)", 12}};
+    const std::map<std::string, std::uint32_t> delays = {{"(family=F)", 13},           {"(family=AS)", 10},
+                                                         {"(family=ALS)", 18},         {"(family=LS)", 28},
+                                                         {"(delay=9,family=LS)", 9},   {"", 28},
+                                                         {"(delay=28,family=AS)", 28}, {"(delay=12)", 12}};
     for (const auto& [parameters, delay] : delays) {
         DM74x574 chip("u", ParaMap(parameters));
         EXPECT_EQ(chip.getDelay(), delay) << parameters;
