@@ -185,6 +185,19 @@ TEST(DM74LS137, FindsTheSameAsGoingBackNanosecondByNanosecond) {
     }
 }
 
+TEST(DM74LS137, FindsALatchThatWasOpenOnItsNetBeforeItHungThere) {
+    Net net("n", 1);
+    Pin driver(Direction::Output, "driver");
+    net.addPort(&driver, kOutside);
+    driver.setLevel('L', 10);
+    driver.setLevel('H', 20);
+    DM74LS137 chip("u", 38U);
+    net.addPort(chip.findPort("_GL"), kOutside);
+    PartBench(chip, 38).set("G1=H _G2=L A=L B=H C=L", 0);
+    chip.evaluate(500);
+    EXPECT_EQ(chip.findPort("Y")->get(500), lowAt(2, 8));
+}
+
 TEST(DM74LS137, ReadsAddressAndEnablesOneDelayAgo) {
     for (const std::string input : {"A", "G1", "_G2"}) {
         DM74LS137 chip("u", 21U);

@@ -213,6 +213,19 @@ TEST(DM74LS78A, ForgetsItsBitsByReset) {
     }
 }
 
+TEST(DM74LS78A, SeesNoEdgeAtTheStartOfASecondRunWhoseClockIsLaidDownBeforehand) {
+    DM74LS78A chip("u", 20U);
+    PartBench bench(chip, 20);
+    for (int run = 0; run < 2; ++run) {
+        bench.set("_CLR=H _1PRE=H 1J=H 1K=L _CLK=L", 0);
+        bench.set("_CLK=H", 40);
+        chip.evaluate(20);
+        EXPECT_EQ(bench.read("1Q _1Q", 20), "U U");
+        chip.evaluate(500);
+        chip.reset();
+    }
+}
+
 TEST(DM74LS78A, WithoutDelayHasSeenNothingBeforeTheFirstEvaluationOfARun) {
     DM74LS78A chip("u", 0U);
     for (int i = 0; i < 2; ++i) {

@@ -213,5 +213,22 @@ TEST(DM74x574, ForgetsItsBitsByReset) {
     }
 }
 
+TEST(TtlRegisters, SeeNoEdgeAtTheStartOfASecondRunWhoseClockIsLaidDownBeforehand) {
+    SN74x273 cleared("u", 27U);
+    DM74x574 floating("u", 27U);
+    for (Component* chip : {static_cast<Component*>(&cleared), static_cast<Component*>(&floating)}) {
+        PartBench bench(*chip, 27);
+        const std::string enable = chip == &cleared ? "_CLR=H" : "_OE=L";
+        for (int run = 0; run < 2; ++run) {
+            bench.set(enable + " D=HLHLHLHL clk=H", 0);
+            bench.set("clk=L", 40);
+            chip->evaluate(27);
+            EXPECT_EQ(bench.read("Q", 27), "UUUUUUUU") << chip->getType();
+            chip->evaluate(500);
+            chip->reset();
+        }
+    }
+}
+
 }  // namespace
 }  // namespace tarnsim

@@ -168,7 +168,9 @@ TEST_F(UpDownCounter, ForgetsItsCountByReset) {
 TEST_F(UpDownCounter, HasNoCountInASecondRunThatDoesNotLoadIt) {
     bench.expectSteps("QDCBA", {{"_LOAD=L CLK=L _CTEN=L D_U=L DCBA=HLLH", "HLLH"}});
     bench.reset();
-    bench.expectSteps("QDCBA", {{"_LOAD=H CLK=L _CTEN=L D_U=L", "UUUU"}, {"_CTEN=H", "UUUU"}});
+    bench.set("_LOAD=H CLK=L _CTEN=L D_U=L", 0);
+    chip.evaluate(500);  // later than the load of the first run
+    EXPECT_EQ(bench.read("QDCBA", 500), "UUUU");
 }
 
 TEST_F(UpDownCounter, GoesBackToItsFormerCountIfItsInputsTurnOutNotToChangeIt) {
