@@ -113,7 +113,7 @@ TEST(Join, OfAnInputWithoutExpressionTakesTheBitsAsTheyCome) {
     bench.expectSteps("out", {{"a=HL", "UUHL"}});
 }
 
-TEST(Split, GivesEachOutputItsBits) {
+TEST(SplitUnit, GivesEachOutputItsBits) {
     Split split("s", 8, {{"hi", "7:4"}, {"mirror", "0:3"}, {"pick", "6;0;6"}, {"bit", "5"}});
     PartBench bench(split, 0);
     bench.expectSteps(

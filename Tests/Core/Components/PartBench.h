@@ -1,9 +1,9 @@
 #pragma once
 
 #include <cstdint>
-#include <initializer_list>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Core/Components/Component.h"
