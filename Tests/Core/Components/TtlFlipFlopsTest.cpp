@@ -81,9 +81,8 @@ TEST(SN74x74, ComparesItsClockWithThatOfItsLastEvaluation) {
 
 TEST(SN74x74, HasTheDelayOfItsFamilyUnlessADelayIsGiven) {
     const std::map<std::string, std::uint32_t> delays = {
-        {"(family=F)", 11},  {"(family=AS)", 11},        {"(family=ALS)", 18},
-        {"(family=LS)", 35}, {"(delay=9,family=LS)", 9}, {"(delay=50,family=F)", 50},
-        {"(delay=12)", 12},  {"(delay=0,family=AS)", 0}, {"", 35}};
+        {"(family=F)", 11},         {"(family=AS)", 11},         {"(family=ALS)", 18}, {"(family=LS)", 35},
+        {"(delay=9,family=LS)", 9}, {"(delay=50,family=F)", 50}, {"(delay=12)", 12},   {"(delay=0,family=AS)", 0}};
     for (const auto& [parameters, delay] : delays) {
         SN74x74 chip("u", ParaMap(parameters));
         EXPECT_EQ(chip.getDelay(), delay) << parameters;
@@ -92,11 +91,14 @@ TEST(SN74x74, HasTheDelayOfItsFamilyUnlessADelayIsGiven) {
         EXPECT_EQ(later.getDelay(), 99U);
         later.setParameters(ParaMap(parameters));
         EXPECT_EQ(later.getDelay(), delay) << parameters;
+        later.setParameters(ParaMap("(colour=red)"));  // neither: nothing sets the delay
+        EXPECT_EQ(later.getDelay(), delay) << parameters;
     }
     for (const std::string family : {"S", "ls", "", "HCT"}) {
         EXPECT_EQ(errorOf([&] { SN74x74("u", ParaMap("(delay=9,family=" + family + ")")); }),
                   "Error: unknown device family of SN74x74: '" + family + "'.");
     }
+    EXPECT_EQ(SN74x74("u", ParaMap()).getDelay(), 35U);  // as in LS
 }
 
 TEST(SN74x74, RunsTheSameAfterAReset) {

@@ -49,6 +49,8 @@ TEST(SN74x174, HasTheDelayOfItsFamilyUnlessADelayIsGivenAndThatOfLSWithNeither) 
         SN74x174 chip("u", ParaMap(parameters));
         EXPECT_EQ(chip.getDelay(), delay) << parameters;
         EXPECT_EQ(chip.getDescription(), "<br>Delay: <i>" + std::to_string(delay) + "</i>");
+        chip.setParameters(ParaMap("(colour=red)"));  // neither: nothing sets the delay
+        EXPECT_EQ(chip.getDelay(), delay) << parameters;
     }
     EXPECT_EQ(SN74x174("u", 4U).getDelay(), 4U);
     EXPECT_EQ(errorOf([] { SN74x174("u", ParaMap("(family=HC)")); }),
@@ -176,10 +178,9 @@ TEST(DM74x574, IsClockedWhileItFloatsAndByTheExactPairLThenHOnly) {
 }
 
 TEST(DM74x574, HasTheDelayOfItsParametersAndThatOfItsFamilyOnlyWithoutOne) {
-    const std::map<std::string, std::uint32_t> delays = {{"(family=F)", 13},           {"(family=AS)", 10},
-                                                         {"(family=ALS)", 18},         {"(family=LS)", 28},
-                                                         {"(delay=9,family=LS)", 9},   {"", 28},
-                                                         {"(delay=28,family=AS)", 28}, {"(delay=12)", 12}};
+    const std::map<std::string, std::uint32_t> delays = {
+        {"(family=F)", 13},         {"(family=AS)", 10},          {"(family=ALS)", 18}, {"(family=LS)", 28},
+        {"(delay=9,family=LS)", 9}, {"(delay=28,family=AS)", 28}, {"(delay=12)", 12}};
     for (const auto& [parameters, delay] : delays) {
         DM74x574 chip("u", ParaMap(parameters));
         EXPECT_EQ(chip.getDelay(), delay) << parameters;
@@ -188,7 +189,10 @@ TEST(DM74x574, HasTheDelayOfItsParametersAndThatOfItsFamilyOnlyWithoutOne) {
         EXPECT_EQ(later.getDelay(), 99U);
         later.setParameters(ParaMap(parameters));
         EXPECT_EQ(later.getDelay(), delay) << parameters;
+        later.setParameters(ParaMap("(colour=red)"));  // neither: nothing sets the delay
+        EXPECT_EQ(later.getDelay(), delay) << parameters;
     }
+    EXPECT_EQ(DM74x574("u", ParaMap()).getDelay(), 28U);  // as in LS
     EXPECT_EQ(errorOf([] { DM74x574("u", ParaMap("(delay=28,family=XYZ)")); }),
               "Error: unknown device family of SN74x574: 'XYZ'.");
 }
