@@ -40,6 +40,7 @@ public:
         clone->getParameters() = source.getParameters();
         clone->setCommentText(source.getCommentText());
         clone->setId(source.getId());
+        clone->setSimulator(source.findSimulator());
         return clone;
     }
 
