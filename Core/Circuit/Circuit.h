@@ -76,6 +76,10 @@ public:
     std::string getFilePath() const;
     void setFilePath(const std::string& path);
     void clearFilePath() { filePath_.clear(); }
+    /// The path of the file that this circuit's text stood in when it was loaded, as seen from the working directory;
+    /// empty for a circuit that wasn't loaded. A file path is as its circuit statement has it, this one is where it
+    /// was.
+    const std::string& getSourceFile() const { return sourceFile_; }
     /// True until a file path is set or copied.
     bool isNotLoaded() const { return notLoaded_; }
 
@@ -258,6 +262,7 @@ private:
     friend ComponentFactory;  // passes that on to the circuits that it owns
 
     std::string filePath_;  ///< empty for a circuit declared inline
+    std::string sourceFile_;
     bool notLoaded_ = true;
     std::weak_ptr<const CircuitSpec> spec_;
     NamedList<Component> children_;  ///< not owned here

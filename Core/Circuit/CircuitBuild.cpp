@@ -62,6 +62,7 @@ void Circuit::setSpec(const CircuitSpec& spec) {
     } else {
         setFilePath(spec.getFileName());
     }
+    sourceFile_ = spec.getSourceFile();
     setName(spec.getName());
     buildFromSpec(spec);
     if (!spec.isInline()) onLoaded(this);

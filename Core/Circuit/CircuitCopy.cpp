@@ -20,7 +20,11 @@ constexpr const char* kNameWhileReplacing = "qocksiKUTMCNSAL923859kkdjOLDHGj348f
 }  // namespace
 
 Circuit::Circuit(const Circuit& other)
-    : Component(other), filePath_(other.filePath_), notLoaded_(false), importPaths_(other.importPaths_) {
+    : Component(other),
+      filePath_(other.filePath_),
+      sourceFile_(other.sourceFile_),
+      notLoaded_(false),
+      importPaths_(other.importPaths_) {
     simulator_ = other.findSimulator();
     setParent(nullptr);
     copyChildren(other);

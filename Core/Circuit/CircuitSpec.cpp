@@ -55,8 +55,11 @@ void CircuitSpec::parseFile(const std::string& path) {
     TextFile file(found);
     if (!file.isOpen()) throw Error("Error: File not found: '" + path + "'.");
     filesBeingRead_.emplace_back(found);
+    const std::string outerFile = std::exchange(fileBeingRead_, found);
+    if (current_->sourceFile_.empty()) current_->sourceFile_ = found;
     std::string line;
     while (file.readLine(line)) handleLine(line);
+    fileBeingRead_ = outerFile;
     filesBeingRead_.pop_back();
     current_->checkSharedPorts();
 }
@@ -153,6 +156,7 @@ void CircuitSpec::handleClosingBrace(const Fields& fields) {
 void CircuitSpec::pushBody(const std::string& name, const std::string& file) {
     auto body = std::make_unique<CircuitSpec>(current_, name);
     body->fileName_ = file;
+    if (file.empty()) body->sourceFile_ = fileBeingRead_;
     current_ = current_->subSpecs.emplace_back(std::move(body)).get();
 }
 

@@ -34,6 +34,8 @@ public:
     void setName(const std::string& name) { name_ = name; }
     /// The file of this body, or of the nearest one around it that has a file.
     std::string getFileName() const;
+    /// The path at which the file was found that the text of this body stands in, as seen from the working directory.
+    const std::string& getSourceFile() const { return sourceFile_; }
     /// The body stands in braces, in somebody else's file.
     bool isInline() const { return fileName_.empty(); }
     std::size_t countUnits() const;
@@ -79,11 +81,13 @@ private:
 
     std::string name_;
     std::string fileName_;  ///< the file being read into this body; empty for an inline body
+    std::string sourceFile_;
     int lineNumber_ = 0;  ///< an inline body counts on from where it opens; the body around it doesn't count meanwhile
     CircuitSpec* current_;     ///< of the top-level object: the body that statements go to
     CircuitSpec* parentSpec_;  ///< not owned; null at the top level
     std::string pendingComment_;
     std::vector<FileIdentity> filesBeingRead_;  ///< of the top-level object, outermost first
+    std::string fileBeingRead_;                 ///< of the top-level object: where the innermost of them was found
     bool isReadingOwnFile_ = false;  ///< a body in a file of its own, which ends with the file and not with a brace
 
     std::unordered_map<std::string, std::size_t> netOfPort_;  ///< checkSharedPorts: the first net that names a port

@@ -2,9 +2,20 @@
 
 #include <sys/stat.h>
 
+#include <iterator>
+
 #include "Core/Support/Error.h"
 
 namespace tarnsim {
+
+namespace {
+
+bool isDirectory(const std::string& path) {
+    struct stat status = {};
+    return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+}  // namespace
 
 bool fileExists(const std::string& path) {
     struct stat status = {};
@@ -18,10 +29,16 @@ FileIdentity::FileIdentity(const std::string& path) {
     number = status.st_ino;
 }
 
+std::optional<std::string> readBytes(const std::string& path) {
+    if (isDirectory(path)) return std::nullopt;
+    std::ifstream stream(path, std::ios::binary);
+    std::string bytes(std::istreambuf_iterator<char>(stream), {});
+    if (!stream.is_open() || stream.bad()) return std::nullopt;
+    return bytes;
+}
+
 TextFile::TextFile(const std::string& path) : path_(path) {
-    struct stat status = {};
-    const bool isDirectory = stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
-    if (!isDirectory) stream_.open(path);
+    if (!isDirectory(path)) stream_.open(path);
 }
 
 bool TextFile::readLine(std::string& line) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <fstream>
+#include <optional>
 #include <string>
 
 namespace tarnsim {
@@ -18,6 +19,9 @@ struct FileIdentity {
     explicit FileIdentity(const std::string& path);
     bool operator==(const FileIdentity&) const = default;
 };
+
+/// The bytes of a file; nothing if it isn't there, is a directory, or can't be read.
+std::optional<std::string> readBytes(const std::string& path);
 
 /// A text file, read line by line.
 class TextFile {

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "Core/Circuit/Circuit.h"
+#include "Core/Components/Component.h"
+#include "Core/Values/Value.h"
+
+namespace tarnsim {
+
+/// Puts a byte of an image into a memory. False if the memory has no such address: the rest of the file is refused
+/// then.
+using StoreByte = std::function<bool(std::uint32_t address, const Value& byte)>;
+
+/// Loads the images that the parameters of a memory name: first `cbmfile`, whose first two bytes are the address, low
+/// byte first, then `rawfile`, which goes to `rawaddress`, 0 by default. `className` is what messages call the memory.
+///
+/// A file is looked for beside the file of the circuit `owner` that the memory stands in, and if it isn't there, beside
+/// the files in which this circuit and those around it were read, nearest first.
+///
+/// What was loaded is reported on the standard output. A file that can't be read, or doesn't fit, is reported on the
+/// error stream, and the run goes on.
+void loadMemoryImages(const Component& memory, std::string_view className, const Circuit& owner,
+                      const StoreByte& store);
+
+}  // namespace tarnsim
