@@ -1,0 +1,36 @@
+time A    Din _WE _OE _CS => Dout
+# each level of _WE and _OE with other data, then a read: nothing was stored
+0    1234 00  L   H   L      ZZZZZZZZ
+10   1234 00  H   L   L      00
+20   1234 11  H   H   U      UUUUUUUU
+30   1234 11  H   L   L      00
+40   1234 22  H   L   U      UUUUUUUU
+50   1234 22  H   L   L      00
+60   1234 33  H   U   U      UUUUUUUU
+70   1234 33  H   L   L      00
+80   1234 44  H   Z   U      UUUUUUUU
+90   1234 44  H   L   L      00
+100  1234 55  L   H   U      UUUUUUUU
+110  1234 55  H   L   L      00
+120  1234 66  L   L   U      UUUUUUUU
+130  1234 66  H   L   L      00
+140  1234 77  L   U   U      UUUUUUUU
+150  1234 77  H   L   L      00
+160  1234 88  L   Z   U      UUUUUUUU
+170  1234 88  H   L   L      00
+180  1234 99  U   H   U      UUUUUUUU
+190  1234 99  H   L   L      00
+200  1234 AA  U   L   U      UUUUUUUU
+210  1234 AA  H   L   L      00
+220  1234 BB  U   U   U      UUUUUUUU
+230  1234 BB  H   L   L      00
+240  1234 CC  U   Z   U      UUUUUUUU
+250  1234 CC  H   L   L      00
+260  1234 DD  Z   H   U      UUUUUUUU
+270  1234 DD  H   L   L      00
+280  1234 EE  Z   L   U      UUUUUUUU
+290  1234 EE  H   L   L      00
+300  1234 FF  Z   U   U      UUUUUUUU
+310  1234 FF  H   L   L      00
+320  1234 10  Z   Z   U      UUUUUUUU
+330  1234 10  H   L   L      00

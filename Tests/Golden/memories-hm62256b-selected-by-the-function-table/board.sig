@@ -1,0 +1,42 @@
+time A               Din _WE _OE _CS => Dout
+# each level of _WE and _OE with other data, then a read that tells whether it was stored
+0    1234            00  L   H   L      ZZZZZZZZ
+10   1234            00  H   L   L      00
+20   1234            11  H   H   L      ZZZZZZZZ
+30   1234            11  H   L   L      00
+40   1234            22  H   L   L      00
+50   1234            22  H   L   L      00
+60   1234            33  H   U   L      UUUUUUUU
+70   1234            33  H   L   L      00
+80   1234            44  H   Z   L      UUUUUUUU
+90   1234            44  H   L   L      00
+100  1234            55  L   H   L      ZZZZZZZZ
+110  1234            55  H   L   L      55
+120  1234            66  L   L   L      ZZZZZZZZ
+130  1234            66  H   L   L      66
+140  1234            77  L   U   L      UUUUUUUU
+150  1234            77  H   L   L      77
+160  1234            88  L   Z   L      UUUUUUUU
+170  1234            88  H   L   L      88
+180  1234            99  U   H   L      UUUUUUUU
+190  1234            99  H   L   L      88
+200  1234            AA  U   L   L      UUUUUUUU
+210  1234            AA  H   L   L      88
+220  1234            BB  U   U   L      UUUUUUUU
+230  1234            BB  H   L   L      88
+240  1234            CC  U   Z   L      UUUUUUUU
+250  1234            CC  H   L   L      88
+260  1234            DD  Z   H   L      UUUUUUUU
+270  1234            DD  H   L   L      88
+280  1234            EE  Z   L   L      UUUUUUUU
+290  1234            EE  H   L   L      88
+300  1234            FF  Z   U   L      UUUUUUUU
+310  1234            FF  H   L   L      88
+320  1234            10  Z   Z   L      UUUUUUUU
+330  1234            10  H   L   L      88
+# an undefined address
+340  1234            EE  H   H   L      ZZZZZZZZ
+350  LLLLLLLLLLLLLLU EE  H   L   L      UUUUUUUU
+360  LLLLLLLLLLLLLLU EE  H   H   L      ZZZZZZZZ
+370  LLLLLLLLLLLLLLU EE  H   U   L      UUUUUUUU
+380  1234            EE  H   L   L      88

@@ -1,0 +1,33 @@
+time A Din      _WE _OE _CS => Dout
+0    7 5A       L   H   L      ZZZZZZZZ
+10   7 5A       H   L   L      5A
+20   7 UUUUUUUU L   H   L      ZZZZZZZZ
+30   7 00       H   L   L      UUUUUUUU
+40   7 5A       L   H   L      ZZZZZZZZ
+50   7 5A       H   L   L      5A
+60   7 HLUUHLHL L   H   L      ZZZZZZZZ
+70   7 00       H   L   L      HLUUHLHL
+80   7 5A       L   H   L      ZZZZZZZZ
+90   7 5A       H   L   L      5A
+100  7 ZZZZZZZZ L   H   L      ZZZZZZZZ
+110  7 00       H   L   L      UUUUUUUU
+120  7 5A       L   H   L      ZZZZZZZZ
+130  7 5A       H   L   L      5A
+140  7 LHZHHZLL L   H   L      ZZZZZZZZ
+150  7 00       H   L   L      LHUHHULL
+160  7 5A       L   H   L      ZZZZZZZZ
+170  7 5A       H   L   L      5A
+180  7 ULLLLLLZ L   H   L      ZZZZZZZZ
+190  7 00       H   L   L      ULLLLLLU
+200  7 5A       L   H   L      ZZZZZZZZ
+210  7 5A       H   L   L      5A
+220  7 HHHHHHHU L   H   L      ZZZZZZZZ
+230  7 00       H   L   L      HHHHHHHU
+# data that is lost just before _WE rises, and data that comes back in time
+240  7 5A       L   H   L      ZZZZZZZZ
+245  7 UUUUUUUU L   H   L      ZZZZZZZZ
+246  7 5A       H   H   L      ZZZZZZZZ
+250  7 5A       H   L   L      UUUUUUUU
+260  7 UUUUUUUU L   H   L      ZZZZZZZZ
+269  7 A5       L   H   L      ZZZZZZZZ
+270  7 A5       H   L   L      A5

@@ -1,0 +1,79 @@
+# old.bin holds E0 E1 E2 E3 E4.
+time A Din _WE _OE _CS => Dout
+# 1 ns: the read behind it looks at a time before the write
+0    0 10  H   L   L      UUUUUUUU
+19   0 10  H   L   L      UUUUUUUU
+20   0 10  H   L   L      E0
+100  0 10  L   L   L      E0
+101  0 10  H   L   L      E0
+119  0 10  H   L   L      E0
+120  0 10  H   L   L      ZZZZZZZZ
+121  0 10  H   L   L      E0
+250  0 10  H   H   L      E0
+260  0 10  H   L   L      E0
+269  0 10  H   L   L      E0
+270  0 10  H   L   L      ZZZZZZZZ
+279  0 10  H   L   L      ZZZZZZZZ
+280  0 10  H   L   L      10
+# 19 ns: the read behind it looks at a time before the write
+400  1 11  H   L   L      10
+419  1 11  H   L   L      10
+420  1 11  H   L   L      E1
+500  1 11  L   L   L      E1
+519  1 11  H   L   L      E1
+520  1 11  H   L   L      ZZZZZZZZ
+538  1 11  H   L   L      ZZZZZZZZ
+539  1 11  H   L   L      E1
+650  1 11  H   H   L      E1
+660  1 11  H   L   L      E1
+669  1 11  H   L   L      E1
+670  1 11  H   L   L      ZZZZZZZZ
+679  1 11  H   L   L      ZZZZZZZZ
+680  1 11  H   L   L      11
+# 20 ns: the read behind it finds the new value
+800  2 12  H   L   L      11
+819  2 12  H   L   L      11
+820  2 12  H   L   L      E2
+900  2 12  L   L   L      E2
+919  2 12  L   L   L      E2
+920  2 12  H   L   L      ZZZZZZZZ
+939  2 12  H   L   L      ZZZZZZZZ
+940  2 12  H   L   L      12
+1050 2 12  H   H   L      12
+1060 2 12  H   L   L      12
+1069 2 12  H   L   L      12
+1070 2 12  H   L   L      ZZZZZZZZ
+1079 2 12  H   L   L      ZZZZZZZZ
+1080 2 12  H   L   L      12
+# 21 ns: the read behind it finds the new value
+1200 3 13  H   L   L      12
+1219 3 13  H   L   L      12
+1220 3 13  H   L   L      E3
+1300 3 13  L   L   L      E3
+1319 3 13  L   L   L      E3
+1320 3 13  L   L   L      ZZZZZZZZ
+1321 3 13  H   L   L      ZZZZZZZZ
+1340 3 13  H   L   L      ZZZZZZZZ
+1341 3 13  H   L   L      13
+1450 3 13  H   H   L      13
+1460 3 13  H   L   L      13
+1469 3 13  H   L   L      13
+1470 3 13  H   L   L      ZZZZZZZZ
+1479 3 13  H   L   L      ZZZZZZZZ
+1480 3 13  H   L   L      13
+# 60 ns: the read behind it finds the new value
+1600 4 14  H   L   L      13
+1619 4 14  H   L   L      13
+1620 4 14  H   L   L      E4
+1700 4 14  L   L   L      E4
+1719 4 14  L   L   L      E4
+1720 4 14  L   L   L      ZZZZZZZZ
+1760 4 14  H   L   L      ZZZZZZZZ
+1779 4 14  H   L   L      ZZZZZZZZ
+1780 4 14  H   L   L      14
+1850 4 14  H   H   L      14
+1860 4 14  H   L   L      14
+1869 4 14  H   L   L      14
+1870 4 14  H   L   L      ZZZZZZZZ
+1879 4 14  H   L   L      ZZZZZZZZ
+1880 4 14  H   L   L      14

@@ -1,0 +1,10 @@
+# data.prg: 02 10 (the address 1002), 11 22 33.
+time AE   AS   => E        S
+0    1001 1001    UUUUUUUU UUUUUUUU
+10   1002 1002    11       11
+20   1003 1003    22       22
+30   1004 1004    33       33
+40   1005 1005    UUUUUUUU UUUUUUUU
+50   0210 0210    UUUUUUUU UUUUUUUU
+60   0000 0000    UUUUUUUU UUUUUUUU
+70   1003 1004    22       33

@@ -1,0 +1,3 @@
+# image.bin: 11 22.
+time A => D
+0    0    11

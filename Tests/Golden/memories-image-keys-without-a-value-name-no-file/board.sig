@@ -1,0 +1,3 @@
+time AE AS => E        S
+0    0  0     UUUUUUUU UUUUUUUU
+10   1  1     UUUUUUUU UUUUUUUU

@@ -1,0 +1,2 @@
+time AE AS => E        S
+0    0  0     UUUUUUUU UUUUUUUU

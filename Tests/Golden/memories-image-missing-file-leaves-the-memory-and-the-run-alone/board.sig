@@ -1,0 +1,6 @@
+time AE AS Din _WE => E        S
+0    0  0  5A  H      UUUUUUUU UUUUUUUU
+10   1  0  5A  L      UUUUUUUU UUUUUUUU
+20   1  0  5A  H      UUUUUUUU 5A
+30   2  1  5A  H      UUUUUUUU UUUUUUUU
+40   0  0  00  H      UUUUUUUU 5A

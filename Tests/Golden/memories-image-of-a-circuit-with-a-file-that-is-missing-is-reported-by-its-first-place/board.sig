@@ -1,0 +1,3 @@
+# image.bin: EE EE EE.
+time A => D
+0    0    UUUUUUUU

@@ -1,0 +1,6 @@
+# tail.bin: D0 D1 D2 D3 D4. high.prg: FF FF (the address FFFF), E0 E1.
+time A    => first.D  later.D  last.D   inside.D
+0    0       UUUUUUUU UUUUUUUU UUUUUUUU D0
+10   1FFF    UUUUUUUU UUUUUUUU UUUUUUUU UUUUUUUU
+20   3       UUUUUUUU UUUUUUUU UUUUUUUU D3
+30   1       UUUUUUUU UUUUUUUU UUUUUUUU D1

@@ -1,0 +1,3 @@
+# elsewhere/image.bin: EE EE EE.
+time A => D
+0    0    UUUUUUUU

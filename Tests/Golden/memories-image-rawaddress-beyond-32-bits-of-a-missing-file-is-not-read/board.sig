@@ -1,0 +1,2 @@
+time A => D
+0    0    UUUUUUUU
