@@ -27,11 +27,10 @@ std::optional<Image> findImage(const Circuit& owner, const std::string& name) {
         auto bytes = readBytes(path);
         return bytes ? std::optional(Image{std::move(path), std::move(*bytes)}) : std::nullopt;
     };
+    // A circuit in braces has no file path of its own, and another's may be relative to the file that names it.
     if (auto image = read(owner.getFilePath())) return image;
-    for (const Circuit* circuit = &owner; circuit != nullptr; circuit = circuit->getParent()) {
-        if (auto image = read(circuit->getSourceFile())) return image;
-    }
-    return std::nullopt;
+    if (auto image = read(owner.getSourceFile())) return image;
+    return owner.isRoot() ? std::nullopt : read(owner.getParent()->getSourceFile());
 }
 
 /// Stores the bytes from position `first` of the image on and reports it.

@@ -19,7 +19,7 @@ using StoreByte = std::function<bool(std::uint32_t address, const Value& byte)>;
 /// byte first, then `rawfile`, which goes to `rawaddress`, 0 by default. `className` is what messages call the memory.
 ///
 /// A file is looked for beside the file of the circuit `owner` that the memory stands in, and if it isn't there, beside
-/// the files in which this circuit and those around it were read, nearest first.
+/// the files in which this circuit and the one around it were read, in this order.
 ///
 /// What was loaded is reported on the standard output. A file that can't be read, or doesn't fit, is reported on the
 /// error stream, and the run goes on.
