@@ -20,7 +20,7 @@ time AL  _CEL RWL AR  _CER RWR => ram.BUSYL ram.BUSYR
 326  001 L    L   002 L    H      H         L
 327  001 L    L   002 L    H      H         H
 350  001 L    L   002 L    H      H         H
-# 1 ns away and back: it came anew.
+# 1 ns away and back: it came anew and stays busy.
 400  001 L    L   001 L    H      H         H
 420  001 L    L   001 L    H      H         L
 440  001 L    L   002 L    H      H         L

@@ -1,6 +1,8 @@
 time AL  _CEL RWL AR  _CER RWR => ram.BUSYL ram.BUSYR
 # The left side has stood at its address from the start and wins: it has never been undefined, as far as one sees now.
-0    001 L    L   002 L    H      H         U
+# That its _CE fell later doesn't matter.
+0    001 H    L   002 L    H      H         U
+10   001 L    L   002 L    H      H         U
 19   001 L    L   002 L    H      H         U
 20   001 L    L   002 L    H      H         H
 100  001 L    L   001 L    H      H         H

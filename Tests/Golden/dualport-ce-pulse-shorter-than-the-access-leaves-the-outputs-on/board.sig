@@ -46,3 +46,12 @@ time _OE _CE => qL       qR
 810  H   L      UUUUUUUU UUUUUUUU
 811  H   L      ZZZZZZZZ ZZZZZZZZ
 830  H   L      ZZZZZZZZ ZZZZZZZZ
+# A second fall when the first one opens: opening comes last. The rise between them closes 10 ns behind it.
+900  L   L      UUUUUUUU UUUUUUUU
+905  H   L      UUUUUUUU UUUUUUUU
+910  H   L      UUUUUUUU UUUUUUUU
+911  L   L      43       43
+914  L   L      43       43
+915  L   L      ZZZZZZZZ ZZZZZZZZ
+921  L   L      ZZZZZZZZ ZZZZZZZZ
+922  L   L      43       43

@@ -17,15 +17,20 @@ time AL  D        RWL _OEL AR  => bus      q
 212  002 22       L   H    000    UUUUUUUU 40
 217  002 22       H   H    000    UUUUUUUU 40
 227  002 22       H   H    000    22       40
+# Looks of the right side work, too.
+250  002 22       H   H    000    UUUUUUUU 40
+270  002 22       H   H    004    UUUUUUUU 40
+273  002 22       H   H    004    22       UUUUUUUU
+290  002 22       H   H    004    22       44
 # A floating port is an undefined driver, and it never leaves the bus: the RAM's word can't be seen there.
-300  001 ZZZZZZZZ H   H    000    UUUUUUUU 40
-320  001 ZZZZZZZZ H   H    000    UUUUUUUU 40
-340  001 ZZZZZZZZ H   L    000    UUUUUUUU 40
-351  001 ZZZZZZZZ H   L    000    UUUUUUUU 40
-400  001 ZZZZZZZZ H   H    000    UUUUUUUU 40
-410  001 ZZZZZZZZ H   H    000    UUUUUUUU 40
+300  001 ZZZZZZZZ H   H    004    UUUUUUUU 44
+320  001 ZZZZZZZZ H   H    004    UUUUUUUU 44
+340  001 ZZZZZZZZ H   L    004    UUUUUUUU 44
+351  001 ZZZZZZZZ H   L    004    UUUUUUUU 44
+400  001 ZZZZZZZZ H   H    004    UUUUUUUU 44
+410  001 ZZZZZZZZ H   H    004    UUUUUUUU 44
 # On the other side it can.
-500  001 ZZZZZZZZ H   H    001    UUUUUUUU 40
+500  001 ZZZZZZZZ H   H    001    UUUUUUUU 44
 520  001 ZZZZZZZZ H   H    001    UUUUUUUU 11
 550  001 ZZZZZZZZ H   H    002    UUUUUUUU 11
 553  001 ZZZZZZZZ H   H    002    UUUUUUUU UUUUUUUU

@@ -39,13 +39,22 @@ time AL  DL _GL RWL _OEL AR  RWR => ram.IOL  ram.IOR
 791  005 AA L   L   H    002 H      AA       42
 850  005 AA L   H   H    002 H      AA       42
 860  005 AA H   H   H    002 H      ZZZZZZZZ 42
+# Undefined alone it stores nothing.
+880  006 BB L   H   H    002 H      BB       42
+900  006 BB L   L   H    002 H      BB       42
+950  006 CC L   L   H    002 H      CC       42
+960  006 CC L   L   U    002 H      CC       42
+980  006 CC L   H   U    002 H      CC       42
+990  006 CC H   H   U    002 H      ZZZZZZZZ 42
 # The words.
-900  005 AA H   H   H    001 H      ZZZZZZZZ 42
-920  005 AA H   H   H    001 H      ZZZZZZZZ 11
-950  005 AA H   H   H    003 H      ZZZZZZZZ 11
-970  005 AA H   H   H    003 H      ZZZZZZZZ 44
-1000 005 AA H   H   H    004 H      ZZZZZZZZ 44
-1003 005 AA H   H   H    004 H      ZZZZZZZZ UUUUUUUU
-1020 005 AA H   H   H    004 H      ZZZZZZZZ UUUUUUUU
-1050 005 AA H   H   H    005 H      ZZZZZZZZ UUUUUUUU
-1070 005 AA H   H   H    005 H      ZZZZZZZZ 99
+1100 006 CC H   H   U    001 H      ZZZZZZZZ 42
+1120 006 CC H   H   U    001 H      ZZZZZZZZ 11
+1150 006 CC H   H   U    003 H      ZZZZZZZZ 11
+1170 006 CC H   H   U    003 H      ZZZZZZZZ 44
+1200 006 CC H   H   U    004 H      ZZZZZZZZ 44
+1203 006 CC H   H   U    004 H      ZZZZZZZZ UUUUUUUU
+1220 006 CC H   H   U    004 H      ZZZZZZZZ UUUUUUUU
+1250 006 CC H   H   U    005 H      ZZZZZZZZ UUUUUUUU
+1270 006 CC H   H   U    005 H      ZZZZZZZZ 99
+1300 006 CC H   H   U    006 H      ZZZZZZZZ 99
+1320 006 CC H   H   U    006 H      ZZZZZZZZ BB

@@ -1,5 +1,5 @@
 time AL          _CEL RWL AR          _CER RWR => ram.BUSYL ram.BUSYR
-# Both addresses are undefined, and so the same. The right side loses the tie; the left one has been high from ever,
+# Both addresses are undefined, and so the same. The right side loses the tie; the left one has always been high,
 # as its address never changed.
 0    U           L    L   U           L    H      H         U
 19   U           L    L   U           L    H      H         U
