@@ -1,0 +1,13 @@
+time A   _OE => q0
+0    400 L      UUUUUUUU
+20   400 L      UUUUUUUU
+50   401 L      UUUUUUUU
+70   401 L      48
+100  402 L      48
+120  402 L      45
+150  404 L      45
+170  404 L      59
+200  405 L      59
+220  405 L      UUUUUUUU
+250  000 L      UUUUUUUU
+270  000 L      UUUUUUUU

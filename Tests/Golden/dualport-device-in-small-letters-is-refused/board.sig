@@ -1,0 +1,2 @@
+time a => q
+0    L    L

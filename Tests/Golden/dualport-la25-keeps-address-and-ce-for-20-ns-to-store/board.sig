@@ -1,0 +1,33 @@
+time A   D  _G RW _OE _CE => qL       qR
+# The address must stand for 20 ns: it comes 5 ns before RW falls, and the word is stored.
+0    000 B6 H  H  H   L      UUUUUUUU UUUUUUUU
+10   000 B6 H  H  H   L      ZZZZZZZZ ZZZZZZZZ
+195  006 B6 H  H  H   L      ZZZZZZZZ ZZZZZZZZ
+200  006 B6 L  L  H   L      B6       B6
+216  006 B6 L  H  H   L      B6       B6
+221  006 B6 H  H  H   L      ZZZZZZZZ ZZZZZZZZ
+# 1 ns later: nothing is stored, neither here nor at the address before.
+396  007 B6 H  H  H   L      ZZZZZZZZ ZZZZZZZZ
+400  007 5E L  L  H   L      5E       5E
+416  007 5E L  H  H   L      5E       5E
+421  007 5E H  H  H   L      ZZZZZZZZ ZZZZZZZZ
+# So with _CE: in time at address 8, 1 ns too late at address 9.
+520  008 5E H  H  H   H      ZZZZZZZZ ZZZZZZZZ
+795  008 5E H  H  H   L      ZZZZZZZZ ZZZZZZZZ
+800  008 B6 L  L  H   L      B6       B6
+816  008 B6 L  H  H   H      B6       B6
+821  008 B6 H  H  H   H      ZZZZZZZZ ZZZZZZZZ
+950  009 B6 H  H  H   H      ZZZZZZZZ ZZZZZZZZ
+1196 009 B6 H  H  H   L      ZZZZZZZZ ZZZZZZZZ
+1200 009 5E L  L  H   L      5E       5E
+1216 009 5E L  H  H   H      5E       5E
+1221 009 5E H  H  H   H      ZZZZZZZZ ZZZZZZZZ
+# What the four words are now.
+1500 006 5E H  H  L   L      UUUUUUUU UUUUUUUU
+1525 006 5E H  H  L   L      B6       B6
+1700 007 5E H  H  L   L      B6       B6
+1725 007 5E H  H  L   L      47       47
+1900 008 5E H  H  L   L      47       47
+1925 008 5E H  H  L   L      B6       B6
+2100 009 5E H  H  L   L      B6       B6
+2125 009 5E H  H  L   L      49       49

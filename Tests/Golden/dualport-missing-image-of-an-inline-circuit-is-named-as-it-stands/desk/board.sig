@@ -1,0 +1,3 @@
+time a => q
+0    L    U
+3    L    H

@@ -1,0 +1,5 @@
+time A   _OE => q0       q1
+0    000 L      UUUUUUUU UUUUUUUU
+20   000 L      UUUUUUUU 40
+50   005 L      UUUUUUUU 40
+70   005 L      UUUUUUUU 45

@@ -1,0 +1,7 @@
+time A   _OE => q0
+0    000 L      UUUUUUUU
+20   000 L      UUUUUUUU
+50   010 L      UUUUUUUU
+70   010 L      UUUUUUUU
+100  7FF L      UUUUUUUU
+120  7FF L      UUUUUUUU

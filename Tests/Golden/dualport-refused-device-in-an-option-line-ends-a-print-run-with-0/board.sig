@@ -1,0 +1,3 @@
+ram(device)
+time a => q
+0    L    L

@@ -1,0 +1,3 @@
+ram(device=LA7132)
+time a => q
+0    L    L
