@@ -30,7 +30,7 @@ namespace fs = std::filesystem;
 constexpr const char* kAnything = "(any)\n";
 
 /// No case may get lost: the number is raised by hand with every new one.
-constexpr std::size_t kCaseCount = 658;
+constexpr std::size_t kCaseCount = 769;
 
 struct Outcome {
     std::string output;
