@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "Core/Circuit/Circuit.h"
-#include "Core/Components/MemoryImages.h"
 #include "Core/Support/Error.h"
 #include "Core/Support/TLog.h"
 #include "Core/Support/Text.h"
@@ -48,20 +47,8 @@ void IDT7132LA::Side::reset() {
 }
 
 IDT7132LA::IDT7132LA(const std::string& name, const ParaMap& parameters)
-    : Component(std::string(info.typeName), name, parameters), timing_(&kDevices[0]) {
-    IDT7132LA::applyParameters();
-}
-
-void IDT7132LA::onLoaded(Circuit* owner) {
-    load(owner);
-}
-
-void IDT7132LA::start(Time /*endTime*/) {
-    load(getParent());
-}
-
-void IDT7132LA::applyParameters() {
-    load(getParent());
+    : ImageMemory(std::string(info.typeName), name, parameters), timing_(&kDevices[0]) {
+    IDT7132LA::load(nullptr);
 }
 
 void IDT7132LA::load(const Circuit* owner) {

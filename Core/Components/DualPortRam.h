@@ -3,9 +3,8 @@
 #include <cstdint>
 #include <string>
 
-#include "Core/Components/Component.h"
-#include "Core/Components/Memory.h"
 #include "Core/Components/MemoryCells.h"
+#include "Core/Components/MemoryImages.h"
 #include "Core/Components/PartInfo.h"
 #include "Core/Components/Primitives.h"
 #include "Core/Simulation/Net.h"
@@ -17,7 +16,7 @@ namespace tarnsim {
 /// It keeps all times of its data sheet. A change of an input schedules a look at the pins after each time that it
 /// bears on, and an access happens if the pins have been stable for as long as it asks. Its speed grade is the
 /// parameter `device`, LA20 without one.
-class IDT7132LA final : public Component, public MemoryInterface {
+class IDT7132LA final : public ImageMemory<Component> {
 public:
     static constexpr PartInfo info = {
         "IDT7132LA", "",
@@ -31,14 +30,11 @@ public:
     IDT7132LA(const IDT7132LA&) = delete;
     IDT7132LA& operator=(const IDT7132LA&) = delete;
 
-    void onLoaded(Circuit* owner) override;
     void reset() override;
-    void start(Time endTime) override;
     void evaluate(Time /*time*/) override {}
     /// `tag` is the creation number of the port that changed.
     void evaluateTagged(Time time, std::uint64_t tag) override;
     void inputChanged(Port* port, const Value& oldValue, const Value& newValue, Time time) override;
-    void applyParameters() override;
     std::string getDescription() const override;
 
     std::uint32_t getSize() const override { return kSize; }
@@ -87,7 +83,7 @@ private:
         Pin& enable_;
     };
 
-    void load(const Circuit* owner);
+    void load(const Circuit* owner) override;
 
     void addressStep(Side& side, Time time);
     void enableStep(Side& side, Time time);

@@ -1,25 +1,12 @@
 #include "Core/Components/Memories.h"
 
 #include "Core/Circuit/Circuit.h"
-#include "Core/Components/MemoryImages.h"
 #include "Core/Support/TLog.h"
 
 namespace tarnsim {
 
-void MC27C64::onLoaded(Circuit* owner) {
-    load(owner);
-}
-
-void MC27C64::start(Time /*endTime*/) {
-    load(getParent());
-}
-
-void MC27C64::applyParameters() {
-    load(getParent());
-}
-
 void MC27C64::load(const Circuit* owner) {
-    Chip::applyParameters();
+    SingleDelayComponent::applyParameters();
     if (owner == nullptr) return;
     loadMemoryImages(*this, info.typeName, *owner, [this](std::uint32_t address, const Value& byte) {
         if (address >= kSize) return false;
@@ -30,7 +17,7 @@ void MC27C64::load(const Circuit* owner) {
 
 void MC27C64::reset() {
     for (Value& word : words_) word.setUndefined();
-    Chip::reset();
+    ImageMemory::reset();
 }
 
 Value MC27C64::read(std::uint32_t address, Time /*time*/) const {
@@ -51,20 +38,8 @@ void MC27C64::evaluate(Time time) {
     D.set(Value("UUUUUUUU"), time);
 }
 
-void HM62256B::onLoaded(Circuit* owner) {
-    load(owner);
-}
-
-void HM62256B::start(Time /*endTime*/) {
-    load(getParent());
-}
-
-void HM62256B::applyParameters() {
-    load(getParent());
-}
-
 void HM62256B::load(const Circuit* owner) {
-    Chip::applyParameters();
+    SingleDelayComponent::applyParameters();
     if (owner == nullptr) return;
     loadMemoryImages(*this, info.typeName, *owner, [this](std::uint32_t address, const Value& byte) {
         write(byte, address, 0);
@@ -74,7 +49,7 @@ void HM62256B::load(const Circuit* owner) {
 
 void HM62256B::reset() {
     cells_.clear();
-    Chip::reset();
+    ImageMemory::reset();
 }
 
 void HM62256B::evaluate(Time time) {

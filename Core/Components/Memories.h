@@ -5,17 +5,15 @@
 #include <vector>
 
 #include "Core/Components/Chip.h"
-#include "Core/Components/Memory.h"
 #include "Core/Components/MemoryCells.h"
+#include "Core/Components/MemoryImages.h"
 
 namespace tarnsim {
 
-// Memories with one port. The delay is the access time in ns, 0 without the parameter. Images are loaded when the file
-// of the circuit is read, at the start of each run, and whenever parameters are applied to a memory in a circuit, each
-// time with a report.
+// Memories with one port. The delay is the access time in ns, 0 without the parameter.
 
 /// An EPROM of 8K words.
-class MC27C64 final : public Chip<MC27C64>, public MemoryInterface {
+class MC27C64 final : public ImageMemory<Chip<MC27C64>> {
 public:
     static constexpr PartInfo info = {
         "MC27C64", "",
@@ -23,13 +21,10 @@ public:
         "stabilization.<p><b>cbmfile</b> A Commodore-style object file to be loaded into the memory, where the two "
         "first bytes are the load address, in LSB order.<p><b>rawfile</b> A raw binary file to be loaded into the "
         "memory.<p><b>rawaddress</b> The memory location the rawfile will be loaded into. Default is 0x0000."};
-    using Chip::Chip;
+    using ImageMemory::ImageMemory;
 
-    void onLoaded(Circuit* owner) override;
     void reset() override;
-    void start(Time endTime) override;
     void evaluate(Time time) override;
-    void applyParameters() override;
 
     std::uint32_t getSize() const override { return kSize; }
     std::uint32_t getWordSize() const override { return 8; }
@@ -40,8 +35,7 @@ public:
 private:
     static constexpr std::uint32_t kSize = 8192;
 
-    /// Reads the delay, and with an owner the images.
-    void load(const Circuit* owner);
+    void load(const Circuit* owner) override;
 
     Port& A = input("A", 13);
     Port& D = output("D", 8);
@@ -53,7 +47,7 @@ private:
 
 /// A static RAM of 32K words. Writing is level sensitive: while `_WE` and `_CS` are low, every evaluation stores what
 /// `Din` was one delay before.
-class HM62256B final : public Chip<HM62256B>, public MemoryInterface {
+class HM62256B final : public ImageMemory<Chip<HM62256B>> {
 public:
     static constexpr PartInfo info = {
         "HM62256B", "",
@@ -61,13 +55,10 @@ public:
         "stabilization.<p><b>cbmfile</b> A commodore-style object file to be loaded into the memory, where the two "
         "first bytes are the load address, in LSB order.<p><b>rawfile</b> A raw binary file to be loaded into the "
         "memory.<p><b>rawaddress</b> The memory location the rawfile will be loaded into. Default is 0x0000."};
-    using Chip::Chip;
+    using ImageMemory::ImageMemory;
 
-    void onLoaded(Circuit* owner) override;
     void reset() override;
-    void start(Time endTime) override;
     void evaluate(Time time) override;
-    void applyParameters() override;
 
     std::uint32_t getSize() const override { return kSize; }
     std::uint32_t getWordSize() const override { return 8; }
@@ -78,7 +69,7 @@ public:
 private:
     static constexpr std::uint32_t kSize = 32768;
 
-    void load(const Circuit* owner);
+    void load(const Circuit* owner) override;
     void writeFromPins(Time time);
 
     Port& A = input("A", 15);

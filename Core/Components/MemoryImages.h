@@ -7,6 +7,7 @@
 
 #include "Core/Circuit/Circuit.h"
 #include "Core/Components/Component.h"
+#include "Core/Components/Memory.h"
 #include "Core/Values/Value.h"
 
 namespace tarnsim {
@@ -25,5 +26,21 @@ using StoreByte = std::function<bool(std::uint32_t address, const Value& byte)>;
 /// error stream, and the run goes on.
 void loadMemoryImages(const Component& memory, std::string_view className, const Circuit& owner,
                       const StoreByte& store);
+
+/// A part with a memory that images are loaded into: when the file of its circuit is read, at the start of each run,
+/// and whenever parameters are applied to it in a circuit.
+template <class Base>
+class ImageMemory : public Base, public MemoryInterface {
+public:
+    using Base::Base;
+
+    void onLoaded(Circuit* owner) override { load(owner); }
+    void start(Time /*endTime*/) override { load(this->getParent()); }
+    void applyParameters() override { load(this->getParent()); }
+
+private:
+    /// Reads the part's own parameters and, if there is an owner, the images.
+    virtual void load(const Circuit* owner) = 0;
+};
 
 }  // namespace tarnsim
