@@ -28,7 +28,7 @@ template <class Part>
 class Chip : public SingleDelayComponent {
 public:
     Chip(const std::string& name, const ParaMap& parameters) : Chip(name, parameters, ApplyLater()) {
-        SingleDelayComponent::applyParameters();
+        this->readDelay();
     }
     /// `delay` in ns.
     Chip(const std::string& name, std::uint32_t delay)

@@ -172,7 +172,7 @@ void SingleDelayComponent::inputChanged(Port* /*port*/, const Value& /*oldValue*
     scheduleAfter(time, delay_);
 }
 
-void SingleDelayComponent::applyParameters() {
+void SingleDelayComponent::readDelay() {
     std::uint32_t delay = delay_;
     getParameters().get("delay", &delay);
     setDelay(delay);

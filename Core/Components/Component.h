@@ -154,14 +154,16 @@ public:
 
     /// Schedules the evaluation of this component for `time + delay`, whatever changed.
     void inputChanged(Port* port, const Value& oldValue, const Value& newValue, Time time) override;
-    /// Sets `delay` as the parameters have it; an absent one leaves it as it is.
-    void applyParameters() override;
+    /// Reads the delay.
+    void applyParameters() override { readDelay(); }
 
     std::uint32_t getDelay() const { return delay_; }
     /// In ns. Parts that are made of others pass it on.
     virtual void setDelay(std::uint32_t delay) { delay_ = delay; }
 
 protected:
+    /// Sets `delay` as the parameters have it; an absent one leaves it as it is.
+    void readDelay();
     /// When the change took place that leads to an evaluation at `time`.
     Time inputTime(Time time) const { return earlier(time, delay_); }
 

@@ -23,7 +23,7 @@ public:
     GateArray(const std::string& name, const ParaMap& parameters)
         : SingleDelayComponent(std::string(Part::info.typeName), name, parameters) {
         makeGates();
-        SingleDelayComponent::applyParameters();
+        this->readDelay();
     }
     /// `delay` in ns.
     GateArray(const std::string& name, std::uint32_t delay)

@@ -6,7 +6,7 @@
 namespace tarnsim {
 
 void MC27C64::load(const Circuit* owner) {
-    SingleDelayComponent::applyParameters();
+    readDelay();
     if (owner == nullptr) return;
     loadMemoryImages(*this, info.typeName, *owner, [this](std::uint32_t address, const Value& byte) {
         if (address >= kSize) return false;
@@ -39,7 +39,7 @@ void MC27C64::evaluate(Time time) {
 }
 
 void HM62256B::load(const Circuit* owner) {
-    SingleDelayComponent::applyParameters();
+    readDelay();
     if (owner == nullptr) return;
     loadMemoryImages(*this, info.typeName, *owner, [this](std::uint32_t address, const Value& byte) {
         write(byte, address, 0);
