@@ -184,7 +184,7 @@ private:
     }
     std::string randomAddress(const std::vector<std::string>& addresses) {
         std::string letters = addresses[random_.below(addresses.size())];
-        if (!undefinedLetters_.empty() && random_.below(20) == 0) letters[5] = random_.letterOf(undefinedLetters_);
+        if (!undefinedLetters_.empty() && random_.below(10) == 0) letters[5] = random_.letterOf(undefinedLetters_);
         return letters;
     }
     std::string randomData() {

@@ -192,6 +192,10 @@ TEST(MemoryImagePlace, IsNoDirectory) {
     }
 }
 
+TEST(MemoryImagePlace, IsNoFileThatTheSystemCannotReadOn) {
+    EXPECT_EQ(loadBeside("board.nlx", "(rawfile=/proc/self/mem)").error, missing("/proc/self/mem"));
+}
+
 TEST(MemoryImagePlace, MustBeReadable) {
     const Workplace here;
     here.write("a", "x");
