@@ -27,7 +27,7 @@ Load loadFor(const std::string& parameters, const Circuit& owner, std::uint32_t 
         load.stored += format("%s%04x=%02x", load.stored.empty() ? "" : " ", address, byte.toNumber());
         return true;
     };
-    const Streams streams = streamsOf([&] { loadMemoryImages(unit, "ACME27", owner, store); });
+    const Streams streams = streamsOf([&] { EXPECT_NO_THROW(loadMemoryImages(unit, "ACME27", owner, store)); });
     load.output = streams.output;
     load.error = streams.error;
     return load;
