@@ -92,6 +92,27 @@ TEST(LibraryDocumentation, OfSplit) {
               "Three bits mapped from bits 7, 3 and 2.");
 }
 
+TEST(LibraryDocumentation, OfTheMemories) {
+    EXPECT_EQ(documentationOf("27C64"),
+              "<b>delay</b> The access time in ns; the time from address, _OE and _CS stabilization to data "
+              "stabilization.<p><b>cbmfile</b> A Commodore-style object file to be loaded into the memory, where the "
+              "two first bytes are the load address, in LSB order.<p><b>rawfile</b> A raw binary file to be loaded "
+              "into the memory.<p><b>rawaddress</b> The memory location the rawfile will be loaded into. Default is "
+              "0x0000.");
+    EXPECT_EQ(documentationOf("HM62256B"),
+              "<b>delay</b> The access time in ns; the time from address, _OE and _CS stabilization to data "
+              "stabilization.<p><b>cbmfile</b> A commodore-style object file to be loaded into the memory, where the "
+              "two first bytes are the load address, in LSB order.<p><b>rawfile</b> A raw binary file to be loaded "
+              "into the memory.<p><b>rawaddress</b> The memory location the rawfile will be loaded into. Default is "
+              "0x0000.");
+    EXPECT_EQ(documentationOf("IDT7132LA"),
+              "<b>device</b> The version of the device. It determines the timing parameters. Valid values are: LA20, "
+              "LA25, LA35, LA55 and LA100.<p><b>cbmfile</b> A commodore-style object file to be loaded into the "
+              "memory, where the two first bytes are the load address, in LSB order.<p><b>rawfile</b> A raw binary "
+              "file to be loaded into the memory.<p><b>rawaddress</b> The memory location the rawfile will be loaded "
+              "into. Default is 0x0000.");
+}
+
 /// Whether all of `pieces` stand in `text`, one behind the other. Names the first that doesn't.
 std::string firstOutOfOrder(const std::string& text, const std::vector<std::string>& pieces) {
     std::size_t position = 0;
@@ -165,10 +186,13 @@ TEST(LibraryDocumentation, IsWhatAPartItselfTells) {
     EXPECT_EQ(documentationOf("DM74LS283"), "");  // files don't know that name
 }
 
-/// What getDescription says for parts with a device family, and what it is silent about for all others.
-TEST(LibraryDescription, IsTheDelayForPartsOfAFamily) {
+/// What getDescription says for parts with a device family or a speed grade, and what it is silent about for all
+/// others.
+TEST(LibraryDescription, IsTheDelayForPartsOfAFamilyAndTheAccessTimeForTheDualPortRam) {
     const std::map<std::string, std::string> described = {
-        {"74x174", "35"}, {"74x273", "27"}, {"74x574", "28"}, {"74x74", "35"}, {"74x688", "25"}};
+        {"74x174", "<br>Delay: <i>35</i>"}, {"74x273", "<br>Delay: <i>27</i>"},
+        {"74x574", "<br>Delay: <i>28</i>"}, {"74x74", "<br>Delay: <i>35</i>"},
+        {"74x688", "<br>Delay: <i>25</i>"}, {"IDT7132LA", "<br>Access time: <i>20 ns</i>"}};
     const std::map<std::string, std::string> needed = {
         {"Join", "(out=8)"}, {"Split", "(in=8)"}, {"Splice", "(size=8)"}};
     ComponentFactory factory;
@@ -176,11 +200,23 @@ TEST(LibraryDescription, IsTheDelayForPartsOfAFamily) {
         const std::string type(row.typeName());
         const auto parameters = needed.find(type);
         const Component* part = factory.create(type, parameters == needed.end() ? "u" : "u" + parameters->second);
-        const auto delay = described.find(type);
-        EXPECT_EQ(part->getDescription(), delay == described.end() ? "" : "<br>Delay: <i>" + delay->second + "</i>")
-            << type;
+        const auto text = described.find(type);
+        EXPECT_EQ(part->getDescription(), text == described.end() ? "" : text->second) << type;
     }
     EXPECT_EQ(factory.create("74x574", "u(delay=7)")->getDescription(), "<br>Delay: <i>7</i>");
+}
+
+TEST(LibraryDescription, IsTheAccessTimeOfEachSpeedGradeOfTheDualPortRam) {
+    const std::map<std::string, std::string> grades = {
+        {"LA20", "20"}, {"LA25", "25"}, {"LA35", "35"}, {"LA55", "55"}, {"LA100", "100"}};
+    ComponentFactory factory;
+    for (const auto& [device, accessTime] : grades) {
+        Component* part = factory.create("IDT7132LA", "u(device=" + device + ")");
+        EXPECT_EQ(part->getDescription(), "<br>Access time: <i>" + accessTime + " ns</i>");
+        Component* later = factory.create("IDT7132LA", "u");
+        later->setParameters(ParaMap("(device=" + device + ")"));
+        EXPECT_EQ(later->getDescription(), "<br>Access time: <i>" + accessTime + " ns</i>");
+    }
 }
 
 }  // namespace

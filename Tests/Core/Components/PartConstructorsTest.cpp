@@ -1,6 +1,7 @@
 #include <type_traits>
 
 #include "Core/Components/Gates.h"
+#include "Core/Components/Memories.h"
 #include "Core/Components/Primitives.h"
 #include "Core/Components/TtlArithmetic.h"
 #include "Core/Components/TtlCounters.h"
@@ -34,7 +35,7 @@ protected:
 using PartsWithDelay =
     testing::Types<And, Nand, Or, Nor, Xor, Xnor, Inv, D_flip_flop, ThreeStateBuf, DM74LS00, DM74LS04, DM74LS08,
                    DM74LS32, SN74x74, DM74LS78A, DM74LS125, DM74LS137, DM74LS139, DM74LS154, SN74x174, DM74LS191,
-                   DM74LS244, SN74x273, DM74LS283, DM74LS374, DM74x574, SN74x688, SN74AS867>;
+                   DM74LS244, SN74x273, DM74LS283, DM74LS374, DM74x574, SN74x688, SN74AS867, HM62256B, MC27C64>;
 TYPED_TEST_SUITE(PartConstructors, PartsWithDelay);
 
 TYPED_TEST(PartConstructors, FromADelayMakeAPartWithThatDelayAndNoParameters) {

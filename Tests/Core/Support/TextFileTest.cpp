@@ -1,5 +1,8 @@
 #include "Core/Support/TextFile.h"
 
+#include <filesystem>
+#include <fstream>
+#include <optional>
 #include <vector>
 
 #include "Tests/Support/RandomText.h"
@@ -62,6 +65,45 @@ TEST(TextFile, NamesTheFileThatTheSystemCannotReadOn) {
     ASSERT_TRUE(file.isOpen());
     std::string line;
     EXPECT_EQ(errorOf([&] { file.readLine(line); }), "Error: cannot read file '/proc/self/mem'.");
+}
+
+TEST(ReadBytes, GivesAFileAsItIs) {
+    const TemporaryFolder folder;
+    std::string all;
+    for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
+    for (const std::string& bytes : {std::string(), std::string("a"), std::string("a\r\n\n\x1a z\n"),
+                                     std::string(3, '\0'), all, std::string(kMegabytes, '\xff')}) {
+        EXPECT_EQ(readBytes(folder.write("file", bytes)), std::optional(bytes));
+    }
+}
+
+TEST(ReadBytes, GivesNothingWhereThereIsNoFileToRead) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(readBytes(folder.path("nothing")), std::nullopt);
+    EXPECT_EQ(readBytes(folder.write("file", "x") + "/"), std::nullopt);
+    EXPECT_EQ(readBytes(folder.path("")), std::nullopt);
+    EXPECT_EQ(readBytes("."), std::nullopt);
+    EXPECT_EQ(readBytes(""), std::nullopt);
+}
+
+TEST(ReadBytes, GivesNothingForAFileThatTheSystemCannotReadOn) {
+    EXPECT_EQ(readBytes("/proc/self/mem"), std::nullopt);  // opens, and reading its first byte is an error
+}
+
+TEST(ReadBytes, GivesNothingForAFileThatMayNotBeRead) {
+    const TemporaryFolder folder;
+    const std::string path = folder.write("file", "x");
+    std::filesystem::permissions(path, std::filesystem::perms::none);
+    if (std::ifstream(path).is_open()) GTEST_SKIP() << "this user may read every file";
+    EXPECT_EQ(readBytes(path), std::nullopt);
+}
+
+TEST(ReadBytes, FollowsALink) {
+    const TemporaryFolder folder;
+    std::filesystem::create_symlink(folder.write("file", "x"), folder.path("link"));
+    std::filesystem::create_symlink(folder.path("nothing"), folder.path("dangling"));
+    EXPECT_EQ(readBytes(folder.path("link")), std::optional<std::string>("x"));
+    EXPECT_EQ(readBytes(folder.path("dangling")), std::nullopt);
 }
 
 TEST(FileExists, IsTrueForFilesAndDirectories) {
