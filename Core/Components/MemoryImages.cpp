@@ -29,8 +29,11 @@ std::optional<Image> findImage(const Circuit& owner, const std::string& name) {
     };
     // A circuit in braces has no file path of its own, and another's may be relative to the file that names it.
     if (auto image = read(owner.getFilePath())) return image;
-    if (auto image = read(owner.getSourceFile())) return image;
-    return owner.isRoot() ? std::nullopt : read(owner.getParent()->getSourceFile());
+    for (const Circuit* circuit : {&owner, owner.getParent()}) {
+        if (circuit == nullptr || circuit->getSourceFile().empty()) continue;
+        if (auto image = read(circuit->getSourceFile())) return image;
+    }
+    return std::nullopt;
 }
 
 /// Stores the bytes from position `first` of the image on and reports it.

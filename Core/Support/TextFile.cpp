@@ -2,7 +2,7 @@
 
 #include <sys/stat.h>
 
-#include <iterator>
+#include <array>
 
 #include "Core/Support/Error.h"
 
@@ -32,9 +32,14 @@ FileIdentity::FileIdentity(const std::string& path) {
 std::optional<std::string> readBytes(const std::string& path) {
     if (isDirectory(path)) return std::nullopt;
     std::ifstream stream(path, std::ios::binary);
-    std::string bytes(std::istreambuf_iterator<char>(stream), {});
-    if (!stream.is_open() || stream.bad()) return std::nullopt;
-    return bytes;
+    if (!stream.is_open()) return std::nullopt;
+    std::string bytes;
+    std::array<char, 65536> block{};
+    do {
+        stream.read(block.data(), block.size());
+        bytes.append(block.data(), static_cast<std::size_t>(stream.gcount()));
+    } while (stream.good());
+    return stream.bad() ? std::nullopt : std::optional(bytes);
 }
 
 TextFile::TextFile(const std::string& path) : path_(path) {
