@@ -1,0 +1,388 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+
+#include "Core/Components/CPUs/CycleCore.h"
+#include "Core/Components/CPUs/CycleOperations.h"
+
+// Instructions as sequences of clock cycles, one line a cycle.
+//
+// A step is one cycle: a list of actions, done in order. It works on the byte that the cycle before has brought, and
+// ends with the address of the next cycle in the mask. Step 0 is the cycle behind the opcode fetch; the last step puts
+// the next opcode fetch into the mask, so an instruction has as many steps as it takes cycles.
+
+namespace tarnsim {
+
+inline constexpr std::size_t kMostSteps = 8;
+
+/// The steps of one instruction, for a core with the record `Core`. Steps beyond its last are never reached.
+template <class Core>
+struct Program {
+    using Step = void (*)(Core&);
+
+    std::array<Step, kMostSteps> steps{};
+    std::size_t length = 0;
+
+    constexpr Program() = default;
+    constexpr Program(std::initializer_list<Step> list) {
+        for (const Step each : list) steps.at(length++) = each;  // a ninth step doesn't compile
+    }
+};
+
+namespace CycleAction {
+
+// Addresses. `ad` is latched where a later step needs it.
+
+inline void readPc(CycleCore& c) {
+    setAddress(c, c.pc);
+}
+inline void readOperand(CycleCore& c) {
+    setAddress(c, c.pc++);
+}
+inline void latchLow(CycleCore& c) {
+    c.ad = dataOf(c);
+}
+inline void latchHigh(CycleCore& c) {
+    c.ad = static_cast<std::uint16_t>(c.ad | unsigned{dataOf(c)} << 8U);
+}
+inline void readLatch(CycleCore& c) {
+    setAddress(c, c.ad);
+}
+inline void readZeroPage(CycleCore& c) {
+    setAddress(c, dataOf(c));
+}
+/// The byte behind the latched zero-page address, which is in the zero page too.
+inline void readNextZeroPage(CycleCore& c) {
+    setAddress(c, (c.ad + 1U) & 0xFFU);
+}
+/// Adds an index within the zero page.
+template <auto index>
+void indexZeroPage(CycleCore& c) {
+    c.ad = static_cast<std::uint8_t>(c.ad + c.*index);
+}
+/// The sum of the latched address and an index, without the carry into the high byte.
+template <auto index>
+void readUncarried(CycleCore& c) {
+    setAddress(c, (c.ad & 0xFF00U) | ((c.ad + c.*index) & 0xFFU));
+}
+template <auto index>
+bool crossesPage(const CycleCore& c) {
+    return ((c.ad ^ (c.ad + c.*index)) & 0xFF00) != 0;
+}
+template <auto index>
+void readIndexed(CycleCore& c) {
+    setAddress(c, static_cast<unsigned>(c.ad + c.*index));
+}
+/// Leaves out the next step if the address was right already.
+template <auto index>
+void skipIfSamePage(CycleCore& c) {
+    if (!crossesPage<index>(c)) ++c.ir;
+}
+
+// Data
+
+inline void latchByte(CycleCore& c) {
+    c.ad = dataOf(c);
+}
+/// The same byte back, as every NMOS read-modify-write does before it writes the new one.
+inline void writeBack(CycleCore& c) {
+    writeByte(c, dataOf(c));
+}
+template <auto Change>
+void writeChanged(CycleCore& c) {
+    writeByte(c, Change(c, static_cast<std::uint8_t>(c.ad)));
+}
+template <auto Value>
+void write(CycleCore& c) {
+    writeByte(c, Value(c));
+}
+
+// Stack
+
+inline void readStack(CycleCore& c) {
+    setAddress(c, 0x100U | c.s);
+}
+inline void push(CycleCore& c) {
+    setAddress(c, 0x100U | c.s--);
+}
+/// The byte under the top comes next.
+inline void pull(CycleCore& c) {
+    setAddress(c, 0x100U | c.s++);
+}
+inline std::uint8_t pcHigh(CycleCore& c) {
+    return static_cast<std::uint8_t>(c.pc >> 8U);
+}
+inline std::uint8_t pcLow(CycleCore& c) {
+    return static_cast<std::uint8_t>(c.pc);
+}
+/// From the latched low byte and the high byte just read.
+inline void jump(CycleCore& c) {
+    c.pc = static_cast<std::uint16_t>(unsigned{dataOf(c)} << 8U | (c.ad & 0xFFU));
+}
+
+// Branches
+
+inline void latchTarget(CycleCore& c) {
+    c.ad = static_cast<std::uint16_t>(c.pc + static_cast<std::int8_t>(dataOf(c)));
+}
+/// Always taken, for BRA.
+inline constexpr std::uint8_t kAlways = 0;
+/// Ends the instruction unless the flag is as the condition wants it.
+template <std::uint8_t flag, bool isSet>
+void fetchUnlessTaken(CycleCore& c) {
+    if (flag != kAlways && ((c.p & flag) != 0) != isSet) fetch(c);
+}
+inline void readTargetUncarried(CycleCore& c) {
+    setAddress(c, (c.pc & 0xFF00U) | (c.ad & 0xFFU));
+}
+/// Ends the instruction, and delays interrupts by one cycle.
+inline void fetchIfSamePage(CycleCore& c) {
+    if (((c.pc ^ c.ad) & 0xFF00) != 0) return;
+    c.pc = c.ad;
+    c.irqPipeline = static_cast<std::uint16_t>(c.irqPipeline >> 1U);
+    c.nmiPipeline = static_cast<std::uint16_t>(c.nmiPipeline >> 1U);
+    fetch(c);
+}
+inline void goToLatch(CycleCore& c) {
+    c.pc = c.ad;
+}
+
+// The BRK sequence, which interrupts and reset share
+
+inline void skipSignature(CycleCore& c) {
+    if ((c.brkFlags & (BreakCause::kIrq | BreakCause::kNmi)) == 0) ++c.pc;
+}
+/// As a push, but a reset only reads.
+template <auto Value>
+void pushUnlessReset(CycleCore& c) {
+    push(c);
+    const std::uint64_t direction = c.brkFlags & BreakCause::kReset ? CyclePin::kRW : 0;
+    writeByte(c, Value(c));
+    c.pins |= direction;
+}
+inline void latchVector(CycleCore& c) {
+    if ((c.brkFlags & BreakCause::kReset) != 0) {
+        c.ad = 0xFFFC;
+    } else {
+        c.ad = (c.brkFlags & BreakCause::kNmi) != 0 ? 0xFFFA : 0xFFFE;
+    }
+}
+inline void readVector(CycleCore& c) {
+    setAddress(c, c.ad++);
+    c.p |= CycleFlag::kI | CycleFlag::kB;
+    c.brkFlags = 0;
+}
+
+}  // namespace CycleAction
+
+/// The sequences that both processors have in common.
+template <class Core>
+struct CommonSequences {
+    using Program = tarnsim::Program<Core>;
+
+    /// One cycle: the actions in order.
+    template <auto... Actions>
+    static void step(Core& c) {
+        (Actions(c), ...);
+    }
+
+    template <auto Op>
+    static constexpr Program implied = {
+        step<CycleAction::readPc>,
+        step<Op, fetch>,
+    };
+
+    template <auto Op>
+    static constexpr Program immediate = {
+        step<CycleAction::readOperand>,
+        step<Op, fetch>,
+    };
+
+    // Reads
+
+    template <auto Op>
+    static constexpr Program zeroPageRead = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::readZeroPage>,
+        step<Op, fetch>,
+    };
+    template <auto Op, auto index>
+    static constexpr Program zeroPageIndexedRead = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::latchLow, CycleAction::readLatch>,
+        step<CycleAction::indexZeroPage<index>, CycleAction::readLatch>,
+        step<Op, fetch>,
+    };
+    template <auto Op>
+    static constexpr Program absoluteRead = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::latchLow, CycleAction::readOperand>,
+        step<CycleAction::latchHigh, CycleAction::readLatch>,
+        step<Op, fetch>,
+    };
+    template <auto Op>
+    static constexpr Program indexedIndirectRead = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::latchLow, CycleAction::readLatch>,
+        step<CycleAction::indexZeroPage<&CycleCore::x>, CycleAction::readLatch>,
+        step<CycleAction::readNextZeroPage, CycleAction::latchLow>,
+        step<CycleAction::latchHigh, CycleAction::readLatch>,
+        step<Op, fetch>,
+    };
+
+    // Writes
+
+    template <auto Value>
+    static constexpr Program zeroPageWrite = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::readZeroPage, CycleAction::write<Value>>,
+        step<fetch>,
+    };
+    template <auto Value, auto index>
+    static constexpr Program zeroPageIndexedWrite = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::latchLow, CycleAction::readLatch>,
+        step<CycleAction::indexZeroPage<index>, CycleAction::readLatch, CycleAction::write<Value>>,
+        step<fetch>,
+    };
+    template <auto Value>
+    static constexpr Program absoluteWrite = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::latchLow, CycleAction::readOperand>,
+        step<CycleAction::latchHigh, CycleAction::readLatch, CycleAction::write<Value>>,
+        step<fetch>,
+    };
+    template <auto Value>
+    static constexpr Program indexedIndirectWrite = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::latchLow, CycleAction::readLatch>,
+        step<CycleAction::indexZeroPage<&CycleCore::x>, CycleAction::readLatch>,
+        step<CycleAction::readNextZeroPage, CycleAction::latchLow>,
+        step<CycleAction::latchHigh, CycleAction::readLatch, CycleAction::write<Value>>,
+        step<fetch>,
+    };
+
+    // Stack
+
+    template <auto Value>
+    static constexpr Program push = {
+        step<CycleAction::readPc>,
+        step<CycleAction::push, CycleAction::write<Value>>,
+        step<fetch>,
+    };
+    template <auto Op>
+    static constexpr Program pull = {
+        step<CycleAction::readPc>,
+        step<CycleAction::pull>,
+        step<CycleAction::readStack>,
+        step<Op, fetch>,
+    };
+
+    // Flow
+
+    static constexpr Program jumpAbsolute = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::latchLow, CycleAction::readOperand>,
+        step<CycleAction::jump, fetch>,
+    };
+    static constexpr Program jumpToSubroutine = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::latchLow, CycleAction::readStack>,
+        step<CycleAction::push, CycleAction::write<CycleAction::pcHigh>>,
+        step<CycleAction::push, CycleAction::write<CycleAction::pcLow>>,
+        step<CycleAction::readPc>,
+        step<CycleAction::jump, fetch>,
+    };
+    static constexpr Program returnFromSubroutine = {
+        step<CycleAction::readPc>,
+        step<CycleAction::pull>,
+        step<CycleAction::pull>,
+        step<CycleAction::latchLow, CycleAction::readStack>,
+        step<CycleAction::jump, CycleAction::readOperand>,
+        step<fetch>,
+    };
+    static constexpr Program returnFromInterrupt = {
+        step<CycleAction::readPc>,
+        step<CycleAction::pull>,
+        step<CycleAction::pull>,
+        step<CycleOperation::pullStatus, CycleAction::pull>,
+        step<CycleAction::latchLow, CycleAction::readStack>,
+        step<CycleAction::jump, fetch>,
+    };
+    template <std::uint8_t flag, bool isSet>
+    static constexpr Program branch = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::readPc, CycleAction::latchTarget, CycleAction::fetchUnlessTaken<flag, isSet>>,
+        step<CycleAction::readTargetUncarried, CycleAction::fetchIfSamePage>,
+        step<CycleAction::goToLatch, fetch>,
+    };
+    /// `AtVector` is what the core does beside reading the low byte of the vector.
+    template <auto AtVector>
+    static constexpr Program breakSequence = {
+        step<CycleAction::readPc>,
+        step<CycleAction::skipSignature, CycleAction::pushUnlessReset<CycleAction::pcHigh>>,
+        step<CycleAction::pushUnlessReset<CycleAction::pcLow>>,
+        step<CycleAction::pushUnlessReset<CycleOperation::status>, CycleAction::latchVector>,
+        step<CycleAction::readVector, AtVector>,
+        step<CycleAction::readLatch, CycleAction::latchLow>,
+        step<CycleAction::jump, fetch>,
+    };
+};
+
+/// Opcodes of one instruction, by addressing mode.
+struct Opcodes {
+    static constexpr int kNone = -1;
+
+    int imm = kNone;
+    int zp = kNone;
+    int zpX = kNone;
+    int zpY = kNone;
+    int abs = kNone;
+    int absX = kNone;
+    int absY = kNone;
+    int indX = kNone;   ///< (zp,X)
+    int indY = kNone;   ///< (zp),Y
+    int zpInd = kNone;  ///< (zp)
+};
+
+/// All instructions of a processor while they are put together, at compile time.
+template <class Core>
+class ProgramTable {
+public:
+    using Program = tarnsim::Program<Core>;
+    using Step = typename Program::Step;
+
+    /// An opcode that is given twice doesn't compile. No opcode, no entry.
+    constexpr void set(int opcode, const Program& program) {
+        if (opcode == Opcodes::kNone) return;
+        Program& entry = programs_.at(static_cast<std::size_t>(opcode));
+        if (entry.length != 0) throw "opcode given twice";
+        entry = program;
+    }
+
+    constexpr bool isComplete() const {
+        for (const Program& each : programs_) {
+            if (each.length == 0) return false;
+        }
+        return true;
+    }
+
+    /// The table that a tick goes through, with `unreachable` behind the last step of each instruction.
+    constexpr std::array<Step, 256 * kMostSteps> flatten(Step unreachable) const {
+        std::array<Step, 256 * kMostSteps> table{};
+        for (std::size_t i = 0; i < table.size(); ++i) {
+            const Program& program = programs_[i / kMostSteps];
+            const std::size_t step = i % kMostSteps;
+            table[i] = step < program.length ? program.steps[step] : unreachable;
+        }
+        return table;
+    }
+
+private:
+    std::array<Program, 256> programs_{};
+};
+
+}  // namespace tarnsim
