@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -364,10 +365,7 @@ public:
     }
 
     constexpr bool isComplete() const {
-        for (const Program& each : programs_) {
-            if (each.length == 0) return false;
-        }
-        return true;
+        return std::ranges::all_of(programs_, [](const Program& each) { return each.length > 0; });
     }
 
     /// The table that a tick goes through, with `unreachable` behind the last step of each instruction.
