@@ -60,7 +60,7 @@ void IDT7132LA::load(const Circuit* owner) {
     }
     timing_ = timing;
     if (owner == nullptr) return;
-    loadMemoryImages(*this, info.typeName, *owner, [this](std::uint32_t address, const Value& byte) {
+    loadMemoryImages(*this, info.typeName, kSize, *owner, [this](std::uint32_t address, const Value& byte) {
         write(byte, address, 0);
         return true;
     });

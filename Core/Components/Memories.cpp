@@ -8,7 +8,7 @@ namespace tarnsim {
 void MC27C64::load(const Circuit* owner) {
     readDelay();
     if (owner == nullptr) return;
-    loadMemoryImages(*this, info.typeName, *owner, [this](std::uint32_t address, const Value& byte) {
+    loadMemoryImages(*this, info.typeName, kSize, *owner, [this](std::uint32_t address, const Value& byte) {
         if (address >= kSize) return false;
         words_[address] = byte;
         return true;
@@ -41,7 +41,7 @@ void MC27C64::evaluate(Time time) {
 void HM62256B::load(const Circuit* owner) {
     readDelay();
     if (owner == nullptr) return;
-    loadMemoryImages(*this, info.typeName, *owner, [this](std::uint32_t address, const Value& byte) {
+    loadMemoryImages(*this, info.typeName, kSize, *owner, [this](std::uint32_t address, const Value& byte) {
         write(byte, address, 0);
         return true;
     });

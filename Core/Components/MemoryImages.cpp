@@ -21,10 +21,11 @@ struct Image {
     std::string bytes;
 };
 
-std::optional<Image> findImage(const Circuit& owner, const std::string& name) {
+/// The first `most` bytes of the image.
+std::optional<Image> findImage(const Circuit& owner, const std::string& name, std::size_t most) {
     const auto read = [&](const std::string& neighbour) -> std::optional<Image> {
         std::string path = besideFile(neighbour, name);
-        auto bytes = readBytes(path);
+        auto bytes = readBytes(path, most);
         return bytes ? std::optional(Image{std::move(path), std::move(*bytes)}) : std::nullopt;
     };
     // A circuit in braces has no file path of its own, and another's may be relative to the file that names it.
@@ -56,12 +57,14 @@ void store(const Image& image, std::size_t first, std::uint32_t address, const C
 
 }  // namespace
 
-void loadMemoryImages(const Component& memory, std::string_view className, const Circuit& owner,
+void loadMemoryImages(const Component& memory, std::string_view className, std::uint32_t size, const Circuit& owner,
                       const StoreByte& storeByte) {
+    // An address of two bytes, a full memory, and the byte that is too many.
+    const std::size_t mostBytes = std::size_t{size} + 3;
     const ParaMap& parameters = memory.getParameters();
     for (const char* key : {"cbmfile", "rawfile"}) {
         if (!parameters.has(key) || parameters.at(key).empty()) continue;
-        const auto image = findImage(owner, parameters.at(key));
+        const auto image = findImage(owner, parameters.at(key), mostBytes);
         if (!image) {
             std::fprintf(stderr, "*** Error: Memory component %s cannot find the specified file '%s'.\n",
                          std::string(className).c_str(), besideFile(owner.getFilePath(), parameters.at(key)).c_str());

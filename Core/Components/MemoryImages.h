@@ -22,9 +22,10 @@ using StoreByte = std::function<bool(std::uint32_t address, const Value& byte)>;
 /// A file is looked for beside the file of the circuit `owner` that the memory stands in, and if it isn't there, beside
 /// the files in which this circuit and the one around it were read, in this order.
 ///
-/// What was loaded is reported on the standard output. A file that can't be read, or doesn't fit, is reported on the
-/// error stream, and the run goes on.
-void loadMemoryImages(const Component& memory, std::string_view className, const Circuit& owner,
+/// What was loaded is reported on the standard output. A file that can't be read, or that `store` refuses to go on
+/// with, is reported on the error stream, and the run goes on; what `store` raises comes through. Of a file no more is
+/// read than the `size` of the memory in bytes can take.
+void loadMemoryImages(const Component& memory, std::string_view className, std::uint32_t size, const Circuit& owner,
                       const StoreByte& store);
 
 /// A part with a memory that images are loaded into: when the file of its circuit is read, at the start of each run,

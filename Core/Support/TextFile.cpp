@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <array>
 
 #include "Core/Support/Error.h"
@@ -29,16 +30,19 @@ FileIdentity::FileIdentity(const std::string& path) {
     number = status.st_ino;
 }
 
-std::optional<std::string> readBytes(const std::string& path) {
-    if (isDirectory(path)) return std::nullopt;
+std::optional<std::string> readBytes(const std::string& path, std::size_t most) {
+    struct stat status = {};
+    const bool isFile = stat(path.c_str(), &status) == 0 && (S_ISREG(status.st_mode) || S_ISCHR(status.st_mode));
+    if (!isFile) return std::nullopt;
     std::ifstream stream(path, std::ios::binary);
     if (!stream.is_open()) return std::nullopt;
     std::string bytes;
     std::array<char, 65536> block{};
     do {
-        stream.read(block.data(), block.size());
+        const std::size_t wanted = std::min(block.size(), most - bytes.size());
+        stream.read(block.data(), static_cast<std::streamsize>(wanted));
         bytes.append(block.data(), static_cast<std::size_t>(stream.gcount()));
-    } while (stream.good());
+    } while (stream.good() && bytes.size() < most);
     return stream.bad() ? std::nullopt : std::optional(bytes);
 }
 

@@ -20,8 +20,9 @@ struct FileIdentity {
     bool operator==(const FileIdentity&) const = default;
 };
 
-/// The bytes of a file; nothing if it isn't there, is a directory, or can't be read.
-std::optional<std::string> readBytes(const std::string& path);
+/// The first `most` bytes of a file, or all if there are fewer; nothing if it isn't there, is no file (a directory, a
+/// pipe), or can't be read.
+std::optional<std::string> readBytes(const std::string& path, std::size_t most = std::string::npos);
 
 /// A text file, read line by line.
 class TextFile {

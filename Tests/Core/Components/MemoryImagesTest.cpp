@@ -1,5 +1,7 @@
 #include "Core/Components/MemoryImages.h"
 
+#include <sys/stat.h>
+
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
@@ -27,7 +29,8 @@ Load loadFor(const std::string& parameters, const Circuit& owner, std::uint32_t 
         load.stored += format("%s%04x=%02x", load.stored.empty() ? "" : " ", address, byte.toNumber());
         return true;
     };
-    const Streams streams = streamsOf([&] { EXPECT_NO_THROW(loadMemoryImages(unit, "ACME27", owner, store)); });
+    const Streams streams =
+        streamsOf([&] { EXPECT_NO_THROW(loadMemoryImages(unit, "ACME27", 0x10000, owner, store)); });
     load.output = streams.output;
     load.error = streams.error;
     return load;
@@ -136,8 +139,9 @@ TEST(MemoryImages, PassOnWhatTheMemoryRaises) {
     Circuit owner("board", nullptr);
     const auto store = [](std::uint32_t, const Value&) -> bool { throw std::out_of_range("no such word"); };
     const std::string output = outputOf([&] {
-        EXPECT_EQ(standardExceptionOf<std::out_of_range>([&] { loadMemoryImages(unit, "ACME27", owner, store); }),
-                  "no such word");
+        EXPECT_EQ(
+            standardExceptionOf<std::out_of_range>([&] { loadMemoryImages(unit, "ACME27", 0x10000, owner, store); }),
+            "no such word");
     });
     EXPECT_EQ(output, "") << "nothing was loaded";
 }
@@ -242,6 +246,19 @@ TEST(MemoryImagePlace, OfACircuitWithAFileIsFoundBesideThatFileOrTheOneAround) {
     expectLoadedFrom("dir/lib/a");
     here.write("lib/a", "x");
     expectLoadedFrom("lib/a");
+}
+
+TEST(MemoryImagePlace, IsNoPipeSinceThatWouldWaitForEver) {
+    const TemporaryFolder folder;
+    const std::string pipe = folder.path("pipe");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(readBytes(pipe), std::nullopt);
+}
+
+TEST(MemoryImagePlace, MayBeADeviceOfWhichNoMoreIsReadThanWanted) {
+    EXPECT_EQ(readBytes("/dev/zero", 70000), std::string(70000, '\0'));
+    EXPECT_EQ(readBytes("/dev/zero", 0), "");
+    EXPECT_EQ(readBytes("/dev/null"), "");
 }
 
 }  // namespace
