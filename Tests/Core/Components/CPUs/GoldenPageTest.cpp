@@ -66,19 +66,17 @@ public:
 
         run(line, before);
 
-        std::string got;
-        for (const auto& each : bench_.bus)
-            got += format(" %04x:%02x%c", each.address, each.data, each.isRead ? 'r' : 'w');
-        const auto takes = line.neverEnds() ? static_cast<int>(kEndless)
-                                            : line.cyclesWhere([&](char condition) { return model.holds(condition); });
         std::string result;
-        if (got != expected) result += "\n  bus" + got + "\n  not" + expected;
-        if (static_cast<int>(bench_.bus.size()) != takes)
-            result += format("\n  %zu cycles, not %d", bench_.bus.size(), takes);
-        if (text(registers()) != text(model.after))
-            result += "\n  " + text(registers()) + "\n  not " + text(model.after);
+        const auto compare = [&result](const std::string& got, const std::string& wanted) {
+            if (got != wanted) result += "\n  " + got + "\n  not " + wanted;
+        };
+        const int cycles = line.neverEnds() ? static_cast<int>(kEndless)
+                                            : line.cyclesWhere([&](char each) { return model.holds(each); });
+        compare(busText(), expected);
+        compare(format("%zu cycles", bench_.bus.size()), format("%d cycles", cycles));
+        compare(text(registers()), text(model.after));
         for (const auto& [address, byte] : model.written) {
-            if (memory[address] != byte) result += format("\n  %02x at %04x, not %02x", memory[address], address, byte);
+            compare(format("%04x:%02x", address, memory[address]), format("%04x:%02x", address, byte));
         }
         return result.empty() ? "" : line.text() + " from " + text(before) + result + "\n";
     }
@@ -116,6 +114,13 @@ private:
             EXPECT_EQ(bench_.address(), core.pc) << line.text();
             EXPECT_EQ(bench_.pins & CyclePin::kRW, CyclePin::kRW) << line.text();
         }
+    }
+    std::string busText() const {
+        std::string result;
+        for (const auto& each : bench_.bus) {
+            result += format(" %04x:%02x%c", each.address, each.data, each.isRead ? 'r' : 'w');
+        }
+        return result;
     }
     ModelRegisters registers() const {
         const Core& c = bench_.core;
@@ -174,10 +179,11 @@ TEST(GoldenPage, EachLineIsAtItsPlaceAndCountsItsOwnTrace) {
             int always = 0;
             for (const std::string& cycle : line.trace) {
                 const std::size_t slash = cycle.find('/');
-                if (slash == std::string::npos)
+                if (slash == std::string::npos) {
                     ++always;
-                else
+                } else {
                     conditions += "+" + cycle.substr(slash + 1);
+                }
             }
             EXPECT_EQ(line.cycles, std::to_string(always) + conditions) << name << " " << line.text();
         }

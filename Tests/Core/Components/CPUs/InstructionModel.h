@@ -19,7 +19,7 @@ using Memory = std::vector<std::uint8_t>;
 class InstructionModel {
 public:
     InstructionModel(const PageLine& line, bool isCmos, const ModelRegisters& start, const Memory& memory)
-        : line_(line), memory_(memory), before_(start), after(start) {
+        : after(start), line_(line), memory_(memory), before_(start) {
         work_.isCmos = isCmos;
         findPlaces();
         after.pc = next_;
@@ -51,6 +51,9 @@ public:
             default: throw std::logic_error("no such condition");
         }
     }
+
+    ModelRegisters after;
+    std::vector<std::pair<unsigned, unsigned>> written;  ///< addresses and bytes that stay in memory
 
 private:
     unsigned byteAt(unsigned address) const { return memory_[address & 0xFFFFU]; }
@@ -118,8 +121,10 @@ private:
         after = work_.registers;
         after.pc &= 0xFFFFU;
     }
-    /// A letter and a digit: the bit instructions carry the number of their bit in their name.
+    // The bit instructions carry the number of their bit in their name.
     static bool isBranchOnBit(const std::string& name) { return name.starts_with("BBR") || name.starts_with("BBS"); }
+    static bool isChangeOfBit(const std::string& name) { return name.starts_with("RMB") || name.starts_with("SMB"); }
+    static unsigned bitOf(const std::string& name) { return static_cast<unsigned>(name.back() - '0'); }
 
     bool executeJump(const std::string& name) {
         ModelRegisters& r = work_.registers;
@@ -130,7 +135,7 @@ private:
             if (isTaken_) r.pc = target_;
         } else if (isBranchOnBit(name)) {
             values_["old"] = byteAt(places_.at("zp"));
-            const bool isSet = (values_["old"] >> static_cast<unsigned>(name.back() - '0')) % 2 == 1;
+            const bool isSet = (values_["old"] >> bitOf(name)) % 2 == 1;
             if (isSet == (name[2] == 'S')) r.pc = target_;
         } else if (name == "JMP" && line_.mode == "abs") {
             r.pc = address_;
@@ -188,13 +193,12 @@ private:
 
     bool executeOperation(const std::string& name) {
         if (name == "JAM" || name == "STP") return true;
-        const bool isNumbered = name.starts_with("RMB") || name.starts_with("SMB");
         const auto& operations = modelOperations();
-        const auto found = operations.find(isNumbered ? name.substr(0, 3) : name);
+        const auto found = operations.find(isChangeOfBit(name) ? name.substr(0, 3) : name);
         if (found == operations.end()) return false;
         const bool isOnA = line_.mode == "A";
         const bool isImplied = line_.mode == "implied";
-        work_.bit = isNumbered ? static_cast<unsigned>(name.back() - '0') : 0;
+        work_.bit = isChangeOfBit(name) ? bitOf(name) : 0;
         work_.isImmediate = line_.mode == "#";
         work_.addressHigh = address_ >> 8U;
         work_.v = isOnA ? before_.a : isImplied ? 0 : byteAt(address_);
@@ -223,10 +227,6 @@ private:
     bool isTaken_ = false;
     std::map<std::string, unsigned> places_;
     std::map<std::string, unsigned> values_;
-
-public:
-    ModelRegisters after;
-    std::vector<std::pair<unsigned, unsigned>> written;  ///< addresses and bytes, in order; the last one stays
 };
 
 }  // namespace tarnsim

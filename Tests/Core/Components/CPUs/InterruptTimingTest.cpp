@@ -187,6 +187,16 @@ TYPED_TEST(Timing, AnNmiDuringABrkComesBehindItAndNotThroughItsVector) {
     EXPECT_EQ(format("%02x%02x %02x", m[0x1ED], m[0x1EC], m[0x1EB]), "fe00 24");
 }
 
+TYPED_TEST(Timing, AnOpcodeFetchKeepsTheTwoLatestSamplesOnly) {
+    this->program({0xEA, 0xEA, 0xEA});
+    for (int i = 0; i < 2; ++i) this->bench.tick(kIrq | kNmi);
+    EXPECT_EQ(this->bench.core.irqPipeline, 0b110);
+    EXPECT_EQ(this->bench.core.nmiPipeline, 0b100);
+    this->bench.tick(kIrq | kNmi);
+    EXPECT_EQ(this->bench.core.irqPipeline, 0b110);  // of three, each one tick older now
+    EXPECT_EQ(this->bench.core.nmiPipeline, 0);
+}
+
 TYPED_TEST(Timing, WhileRdyHoldsAnIrqGrowsOldAndAnNmiDoesNot) {
     const auto pulseThenHold = [&](std::uint64_t line, int held) {
         this->program({0xEA, 0xEA, 0xEA, 0xEA});

@@ -103,6 +103,17 @@ TEST_F(NmosReset, WithinAnInstructionIsNotSeenUnlessItLastsToTheNextFetch) {
     EXPECT_EQ(bench.core.pc, 0x1234);
 }
 
+TEST_F(NmosReset, StaysInTheMaskOfAHostThatLeavesItThereUntilTheNextFetch) {
+    bench.standAt(0x300);
+    std::uint64_t pins = bench.pins | std::uint64_t{0xEA} << 16U;
+    pins = tick(&bench.core, pins);
+    pins = tick(&bench.core, pins | CyclePin::kRes);  // in the second cycle of a NOP
+    EXPECT_EQ(pins & (CyclePin::kRes | CyclePin::kSync), CyclePin::kRes | CyclePin::kSync);
+    pins = tick(&bench.core, pins);
+    EXPECT_EQ(bench.core.brkFlags, BreakCause::kReset);
+    EXPECT_EQ(pins & (CyclePin::kRes | CyclePin::kSync), 0U);
+}
+
 TEST_F(NmosReset, HeldDownItComesAgainBehindEachSequence) {
     bench.standAt(0x300);
     bench.tick(CyclePin::kRes);
@@ -129,8 +140,9 @@ TEST_F(CmosReset, WithinAnInstructionActsAtOnceAndIgnoresRdy) {
         bench.core.s = 0x80;
         for (int i = 0; i < done; ++i) bench.tick();
         const unsigned pc = bench.core.pc;
-        bench.tick(CyclePin::kRes | CyclePin::kRdy);
+        bench.tick(CyclePin::kRes | CyclePin::kRdy | CyclePin::kIrq | CyclePin::kNmi);
         EXPECT_EQ(bench.core.ir, 1) << done;
+        EXPECT_EQ(bench.pins & bench.kLines, 0U) << done;  // the mask begins anew
         EXPECT_EQ(bench.pins & (CyclePin::kAddress | CyclePin::kRW), pc | CyclePin::kRW) << done;
         EXPECT_EQ(ticksToFetch(), 6) << done;
         EXPECT_EQ(bench.core.pc, 0x1234) << done;
