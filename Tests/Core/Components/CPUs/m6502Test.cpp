@@ -10,7 +10,7 @@ using Bench = CoreBench<m6502, m6502Descriptor>;
 constexpr std::uint64_t kLines = CyclePin::kIrq | CyclePin::kNmi | CyclePin::kRdy | CyclePin::kRes;
 
 TEST(NmosJam, PutsAllAddressAndDataLinesHighAndStaysThroughEverything) {
-    for (const unsigned opcode : {0x02, 0x12, 0x22, 0x32, 0x42, 0x52, 0x62, 0x72, 0x92, 0xB2, 0xD2, 0xF2}) {
+    for (const int opcode : {0x02, 0x12, 0x22, 0x32, 0x42, 0x52, 0x62, 0x72, 0x92, 0xB2, 0xD2, 0xF2}) {
         constexpr std::uint64_t kAllHigh = 0x1FF'FFFF;  // bits 0 to 24
         Bench bench;
         bench.standAt(0x300);
