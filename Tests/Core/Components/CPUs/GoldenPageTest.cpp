@@ -18,7 +18,7 @@ std::string text(const ModelRegisters& r) {
 /// The bus cycles that the page has for this instruction, such as " 0200:b1r"; reads show what is in `memory`.
 class ExpectedTrace {
 public:
-    ExpectedTrace(const PageLine& line, const InstructionModel& model, const Memory& memory) {
+    ExpectedTrace(const PageLine& line, const InstructionModel& model, const ModelMemory& memory) {
         std::size_t count = 0;
         unsigned address = 0;
         std::map<unsigned, unsigned> written;
@@ -58,7 +58,7 @@ public:
     /// the line's conditions were met.
     std::string difference(const PageLine& line) {
         const ModelRegisters before = draw();
-        Memory& memory = bench_.memory;
+        ModelMemory& memory = bench_.memory;
         memory[before.pc] = static_cast<std::uint8_t>(line.opcode);
         const InstructionModel model(line, isCmos_, before, memory);
         const std::string expected = ExpectedTrace(line, model, memory).text;

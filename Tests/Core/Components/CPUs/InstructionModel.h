@@ -12,13 +12,13 @@
 
 namespace tarnsim {
 
-using Memory = std::vector<std::uint8_t>;
+using ModelMemory = std::vector<std::uint8_t>;
 
 /// One instruction, carried out at once on registers and memory as a programmer knows them, without clock cycles. It
 /// also knows the places and bytes that the words of a page's trace mean. Memory is left as it is.
 class InstructionModel {
 public:
-    InstructionModel(const PageLine& line, bool isCmos, const ModelRegisters& start, const Memory& memory)
+    InstructionModel(const PageLine& line, bool isCmos, const ModelRegisters& start, const ModelMemory& memory)
         : after(start), line_(line), memory_(memory), before_(start) {
         work_.isCmos = isCmos;
         findPlaces();
@@ -208,14 +208,14 @@ private:
         values_["new"] = work_.v;
         if (isOnA) {
             work_.registers.a = work_.v;
-        } else if (kind != Kind::kRead) {
+        } else if (kind != ModelKind::kRead) {
             written.emplace_back(address_, work_.v);
         }
         return true;
     }
 
     const PageLine& line_;
-    const Memory& memory_;
+    const ModelMemory& memory_;
     ModelRegisters before_;
     ModelWork work_;
     unsigned next_ = 0;  ///< the address behind the instruction

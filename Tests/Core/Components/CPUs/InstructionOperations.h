@@ -77,9 +77,9 @@ private:
     }
 };
 
-enum class Kind { kRead, kStore, kModify };
+enum class ModelKind { kRead, kStore, kModify };
 
-using ModelOperation = std::pair<Kind, std::function<void(ModelWork&)>>;
+using ModelOperation = std::pair<ModelKind, std::function<void(ModelWork&)>>;
 
 /// Flag and wanted state; a blank for always.
 inline const std::map<std::string, std::pair<char, bool>>& branchConditions() {
@@ -92,9 +92,9 @@ inline const std::map<std::string, std::pair<char, bool>>& branchConditions() {
 /// By mnemonic, all but jumps and pushes and pulls.
 inline const std::map<std::string, ModelOperation>& modelOperations() {
     using W = ModelWork&;
-    constexpr Kind kRead = Kind::kRead;
-    constexpr Kind kStore = Kind::kStore;
-    constexpr Kind kModify = Kind::kModify;
+    constexpr ModelKind kRead = ModelKind::kRead;
+    constexpr ModelKind kStore = ModelKind::kStore;
+    constexpr ModelKind kModify = ModelKind::kModify;
     // clang-format off
     static const std::map<std::string, ModelOperation> operations = {
         {"NOP", {kRead, [](W) {}}},
