@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "Core/Components/CPUs/MOS6502/MOS6502.h"
+#include "Core/Components/CPUs/W65C02/W65C02.h"
 #include "Core/Components/Connectors.h"
 #include "Core/Components/DualPortRam.h"
 #include "Core/Components/Gates.h"
@@ -52,8 +54,10 @@ constexpr std::array kComponentTypes = {
     row<DM74LS00>,  row<DM74LS04>,  row<DM74LS08>,  row<DM74LS32>,   row<SN74x74>,     row<DM74LS78A>,
     row<DM74LS125>, row<DM74LS137>, row<DM74LS139>, row<DM74LS154>,  row<SN74x174>,    row<DM74LS191>,
     row<DM74LS244>, row<SN74x273>,  row<DM74LS283>, row<DM74LS374>,  row<DM74x574>,    row<SN74x688>,
-    row<SN74AS867>, row<HM62256B>,  row<MC27C64>,   row<IDT7132LA>,
+    row<SN74AS867>, row<HM62256B>,  row<MC27C64>,   row<IDT7132LA>,  row<MOS6502>,     row<W65C02>,
 };
+
+static_assert(kComponentTypes.size() == 42);
 
 }  // namespace
 

@@ -18,6 +18,24 @@ TEST(LibraryDocumentation, IsOneLineOnTheDelayForMostParts) {
     }
 }
 
+TEST(LibraryDocumentation, OfTheProcessorsIsTheirTiming) {
+    const std::string common =
+        "<b>t_ads</b> The Address Setup Time, in ns. Time from negative clock flank until address, R/W, SYNC and _VP "
+        "has "
+        "stabilized. Default 30 ns.<p><b>t_ah</b> The Address Hold Time, in ns. The time the address, R/W, SYNC and "
+        "_VP "
+        "are stable after negative clock flank. Default 10 ns.<p><b>t_mds</b> The Write Delay Time, in ns. The time "
+        "after positive clock flank that the (write) data becomes valid. Default 25 ns.<p><b>t_dhw</b> The Write Hold "
+        "Time, in ns. The time after negative clock flank that the (write) data still is valid. Default 10 ns.<p>";
+    EXPECT_EQ(documentationOf("MOS6502"), common);
+    EXPECT_EQ(documentationOf("W65C02"),
+              common +
+                  "<b>t_bvd</b> The BE to Valida Data time, in ns. The time from positive BE flank until address, "
+                  "R/W and data lines are valid. Default is 25 ns. The data sheet provides no value for the "
+                  "negative flank until invalid data, but states that it probably is the same, and that is the "
+                  "value used in this model.");
+}
+
 TEST(LibraryDocumentation, IsEmptyForTheLevelSources) {
     EXPECT_EQ(documentationOf("High"), "");
     EXPECT_EQ(documentationOf("Low"), "");
