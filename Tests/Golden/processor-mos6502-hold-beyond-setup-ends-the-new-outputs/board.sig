@@ -1,0 +1,51 @@
+# The outputs are lost when the hold ends, until the next setup.
+time  data off => A                rw sync D
+0     EA   L      UUUUUUUUUUUUUUUU U  U    EA
+# the first fall, out of nothing
+514   EA   L      UUUUUUUUUUUUUUUU U  U    EA
+515   EA   L      0000             H  L    EA
+539   EA   L      0000             H  L    EA
+540   EA   L      UUUUUUUUUUUUUUUU U  U    EA
+# a rise in a read cycle
+1025  EA   L      UUUUUUUUUUUUUUUU U  U    EA
+# to the first fetch
+6514  EA   L      UUUUUUUUUUUUUUUU U  U    EA
+6515  EA   L      EAEA             H  H    EA
+6539  EA   L      EAEA             H  H    EA
+6540  EA   L      UUUUUUUUUUUUUUUU U  U    EA
+6700  00   L      UUUUUUUUUUUUUUUU U  U    00
+7700  EA   L      UUUUUUUUUUUUUUUU U  U    EA
+8300  EA   H      UUUUUUUUUUUUUUUU U  U    ZZZZZZZZ
+# from a read to a write
+8509  EA   H      UUUUUUUUUUUUUUUU U  U    ZZZZZZZZ
+8510  EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+8514  EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+8515  EA   H      01FD             L  L    UUUUUUUU
+8539  EA   H      01FD             L  L    UUUUUUUU
+8540  EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+# data of the write
+9024  EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+9025  EA   H      UUUUUUUUUUUUUUUU U  U    EA
+# from a write to a write
+9509  EA   H      UUUUUUUUUUUUUUUU U  U    EA
+9510  EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+9514  EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+9515  EA   H      01FC             L  L    UUUUUUUU
+9539  EA   H      01FC             L  L    UUUUUUUU
+9540  EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+10024 EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+10025 EA   H      UUUUUUUUUUUUUUUU U  U    EC
+10509 EA   H      UUUUUUUUUUUUUUUU U  U    EC
+10510 EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+11024 EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+11025 EA   H      UUUUUUUUUUUUUUUU U  U    36
+# from a write to a read
+11509 EA   H      UUUUUUUUUUUUUUUU U  U    36
+11510 EA   H      UUUUUUUUUUUUUUUU U  U    ZZZZZZZZ
+11514 EA   H      UUUUUUUUUUUUUUUU U  U    ZZZZZZZZ
+11515 EA   H      FFFE             H  L    ZZZZZZZZ
+11539 EA   H      FFFE             H  L    ZZZZZZZZ
+11540 EA   H      UUUUUUUUUUUUUUUU U  U    ZZZZZZZZ
+11700 EA   L      UUUUUUUUUUUUUUUU U  U    EA
+# a rise in a read cycle
+12025 EA   L      UUUUUUUUUUUUUUUU U  U    EA

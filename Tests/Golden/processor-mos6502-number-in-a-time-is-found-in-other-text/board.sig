@@ -1,0 +1,51 @@
+# A sign is such text. Other keys are ignored.
+time  data off => A                rw sync D
+0     EA   L      UUUUUUUUUUUUUUUU U  U    EA
+# the first fall, out of nothing
+509   EA   L      UUUUUUUUUUUUUUUU U  U    EA
+510   EA   L      UUUUUUUUUUUUUUUU U  U    EA
+539   EA   L      UUUUUUUUUUUUUUUU U  U    EA
+540   EA   L      0000             H  L    EA
+# a rise in a read cycle
+1070  EA   L      0000             H  L    EA
+# to the first fetch
+6509  EA   L      FFFD             H  L    EA
+6510  EA   L      UUUUUUUUUUUUUUUU U  U    EA
+6539  EA   L      UUUUUUUUUUUUUUUU U  U    EA
+6540  EA   L      EAEA             H  H    EA
+6700  00   L      EAEA             H  H    00
+7700  EA   L      EAEB             H  L    EA
+8300  EA   H      EAEB             H  L    ZZZZZZZZ
+# from a read to a write
+8504  EA   H      EAEB             H  L    ZZZZZZZZ
+8505  EA   H      EAEB             H  L    UUUUUUUU
+8509  EA   H      EAEB             H  L    UUUUUUUU
+8510  EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+8539  EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+8540  EA   H      01FD             L  L    UUUUUUUU
+# data of the write
+9069  EA   H      01FD             L  L    UUUUUUUU
+9070  EA   H      01FD             L  L    EA
+# from a write to a write
+9504  EA   H      01FD             L  L    EA
+9505  EA   H      01FD             L  L    UUUUUUUU
+9509  EA   H      01FD             L  L    UUUUUUUU
+9510  EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+9539  EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+9540  EA   H      01FC             L  L    UUUUUUUU
+10069 EA   H      01FC             L  L    UUUUUUUU
+10070 EA   H      01FC             L  L    EC
+10504 EA   H      01FC             L  L    EC
+10505 EA   H      01FC             L  L    UUUUUUUU
+11069 EA   H      01FB             L  L    UUUUUUUU
+11070 EA   H      01FB             L  L    36
+# from a write to a read
+11504 EA   H      01FB             L  L    36
+11505 EA   H      01FB             L  L    ZZZZZZZZ
+11509 EA   H      01FB             L  L    ZZZZZZZZ
+11510 EA   H      UUUUUUUUUUUUUUUU U  U    ZZZZZZZZ
+11539 EA   H      UUUUUUUUUUUUUUUU U  U    ZZZZZZZZ
+11540 EA   H      FFFE             H  L    ZZZZZZZZ
+11700 EA   L      FFFE             H  L    EA
+# a rise in a read cycle
+12070 EA   L      FFFE             H  L    EA

@@ -1,0 +1,51 @@
+# The clock falls at 500, 1500 and so on.
+time  data off => A                rw sync D
+0     EA   L      UUUUUUUUUUUUUUUU U  U    EA
+# the first fall, out of nothing
+504   EA   L      UUUUUUUUUUUUUUUU U  U    EA
+505   EA   L      UUUUUUUUUUUUUUUU U  U    EA
+559   EA   L      UUUUUUUUUUUUUUUU U  U    EA
+560   EA   L      0000             H  L    EA
+# a rise in a read cycle
+1040  EA   L      0000             H  L    EA
+# to the first fetch
+6504  EA   L      FFFD             H  L    EA
+6505  EA   L      UUUUUUUUUUUUUUUU U  U    EA
+6559  EA   L      UUUUUUUUUUUUUUUU U  U    EA
+6560  EA   L      EAEA             H  H    EA
+6700  00   L      EAEA             H  H    00
+7700  EA   L      EAEB             H  L    EA
+8300  EA   H      EAEB             H  L    ZZZZZZZZ
+# from a read to a write
+8504  EA   H      EAEB             H  L    ZZZZZZZZ
+8505  EA   H      UUUUUUUUUUUUUUUU U  U    ZZZZZZZZ
+8519  EA   H      UUUUUUUUUUUUUUUU U  U    ZZZZZZZZ
+8520  EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+8559  EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+8560  EA   H      01FD             L  L    UUUUUUUU
+# data of the write
+9039  EA   H      01FD             L  L    UUUUUUUU
+9040  EA   H      01FD             L  L    EA
+# from a write to a write
+9504  EA   H      01FD             L  L    EA
+9505  EA   H      UUUUUUUUUUUUUUUU U  U    EA
+9519  EA   H      UUUUUUUUUUUUUUUU U  U    EA
+9520  EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+9559  EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+9560  EA   H      01FC             L  L    UUUUUUUU
+10039 EA   H      01FC             L  L    UUUUUUUU
+10040 EA   H      01FC             L  L    EC
+10519 EA   H      UUUUUUUUUUUUUUUU U  U    EC
+10520 EA   H      UUUUUUUUUUUUUUUU U  U    UUUUUUUU
+11039 EA   H      01FB             L  L    UUUUUUUU
+11040 EA   H      01FB             L  L    36
+# from a write to a read
+11504 EA   H      01FB             L  L    36
+11505 EA   H      UUUUUUUUUUUUUUUU U  U    36
+11519 EA   H      UUUUUUUUUUUUUUUU U  U    36
+11520 EA   H      UUUUUUUUUUUUUUUU U  U    ZZZZZZZZ
+11559 EA   H      UUUUUUUUUUUUUUUU U  U    ZZZZZZZZ
+11560 EA   H      FFFE             H  L    ZZZZZZZZ
+11700 EA   L      FFFE             H  L    EA
+# a rise in a read cycle
+12040 EA   L      FFFE             H  L    EA

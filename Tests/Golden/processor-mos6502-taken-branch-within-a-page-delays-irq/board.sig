@@ -1,0 +1,53 @@
+# A line a bus cycle: the memory answers 100 ns after the fall, the cycle is compared 100 ns after the rise.
+# The control pins count as they stand at the fall that ends the cycle.
+time  data off _IRQ ==(dT)=> A                rw sync D
+0     EA   L   H    500      UUUUUUUUUUUUUUUU U  U    EA
+# the sequence after power-on, then the vector
+600   EA   L   H    500      0000             H  L    EA
+1600  EA   L   H    500      0100             H  L    EA
+2600  EA   L   H    500      01FF             H  L    EA
+3600  EA   L   H    500      01FE             H  L    EA
+4600  EA   L   H    500      FFFC             H  L    EA
+5600  EA   L   H    500      FFFD             H  L    EA
+6600  58   L   H    500      EAEA             H  H    58
+7600  EA   L   H    500      EAEB             H  L    EA
+# BEQ taken, within the page
+8600  F0   L   H    500      EAEB             H  H    F0
+9600  02   L   L    500      EAEC             H  L    02
+10600 EA   L   L    500      EAED             H  L    EA
+11600 EA   L   L    500      EAEF             H  H    EA
+12600 EA   L   L    500      EAF0             H  L    EA
+13600 EA   L   L    500      EAF0             H  H    EA
+14600 EA   L   L    500      EAF0             H  L    EA
+15600 EA   H   L    500      01FD             L  L    EA
+16600 EA   H   L    500      01FC             L  L    F0
+17600 EA   H   L    500      01FB             L  L    22
+18600 F0   L   L    500      FFFE             H  L    F0
+19600 40   L   H    500      FFFF             H  L    40
+20600 58   L   H    500      40F0             H  H    58
+21600 EA   L   H    500      40F1             H  L    EA
+# BEQ taken, to the next page: no delay
+22600 F0   L   H    500      40F1             H  H    F0
+23600 20   L   L    500      40F2             H  L    20
+24600 EA   L   L    500      40F3             H  L    EA
+25600 EA   L   L    500      4013             H  L    EA
+26600 EA   L   L    500      4113             H  H    EA
+27600 EA   L   L    500      4113             H  L    EA
+28600 EA   H   L    500      01FA             L  L    41
+29600 EA   H   L    500      01F9             L  L    13
+30600 EA   H   L    500      01F8             L  L    22
+31600 00   L   L    500      FFFE             H  L    00
+32600 50   L   H    500      FFFF             H  L    50
+33600 58   L   H    500      5000             H  H    58
+34600 EA   L   H    500      5001             H  L    EA
+# BNE not taken: the instruction behind it runs
+35600 D0   L   H    500      5001             H  H    D0
+36600 20   L   L    500      5002             H  L    20
+37600 EA   L   L    500      5003             H  H    EA
+38600 EA   L   L    500      5004             H  L    EA
+39600 EA   L   L    500      5004             H  H    EA
+40600 EA   L   L    500      5004             H  L    EA
+41600 EA   H   L    500      01F7             L  L    50
+42600 EA   H   L    500      01F6             L  L    04
+43600 EA   H   L    500      01F5             L  L    22
+44600 00   L   L    500      FFFE             H  L    00

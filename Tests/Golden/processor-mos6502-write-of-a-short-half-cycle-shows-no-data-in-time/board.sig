@@ -1,0 +1,39 @@
+time data off PHI0 => A                rw sync D        phi1 phi2
+0    EA   L   L       UUUUUUUUUUUUUUUU U  U    EA       H    L
+100  EA   L   H       UUUUUUUUUUUUUUUU U  U    EA       L    H
+150  EA   L   L       UUUUUUUUUUUUUUUU U  U    EA       H    L
+200  EA   L   H       0000             H  L    EA       L    H
+250  EA   L   L       0000             H  L    EA       H    L
+300  EA   L   H       0100             H  L    EA       L    H
+350  EA   L   L       0100             H  L    EA       H    L
+400  EA   L   H       01FF             H  L    EA       L    H
+450  EA   L   L       01FF             H  L    EA       H    L
+500  EA   L   H       01FE             H  L    EA       L    H
+550  EA   L   L       01FE             H  L    EA       H    L
+600  EA   L   H       FFFC             H  L    EA       L    H
+650  EA   L   L       FFFC             H  L    EA       H    L
+700  EA   L   H       FFFD             H  L    EA       L    H
+750  EA   L   L       FFFD             H  L    EA       H    L
+790  00   L   L       EAEA             H  H    00       H    L
+800  00   L   H       EAEA             H  H    00       L    H
+850  00   L   L       EAEA             H  H    00       H    L
+890  EA   H   L       EAEB             H  L    ZZZZZZZZ H    L
+900  EA   H   H       EAEB             H  L    ZZZZZZZZ L    H
+950  EA   H   L       EAEB             H  L    ZZZZZZZZ H    L
+980  EA   H   L       01FD             L  L    UUUUUUUU H    L
+# 30 ns high: the data stands for 5 ns and the hold
+1000 EA   H   H       01FD             L  L    UUUUUUUU L    H
+1024 EA   H   H       01FD             L  L    UUUUUUUU L    H
+1025 EA   H   H       01FD             L  L    EA       L    H
+1030 EA   H   L       01FD             L  L    EA       H    L
+1039 EA   H   L       01FD             L  L    EA       H    L
+1040 EA   H   L       UUUUUUUUUUUUUUUU U  U    UUUUUUUU H    L
+1060 EA   H   L       01FC             L  L    UUUUUUUU H    L
+# 10 ns high: the data of the cycle before comes while the next one begins
+1100 EA   H   H       01FC             L  L    UUUUUUUU L    H
+1110 EA   H   L       01FC             L  L    UUUUUUUU H    L
+1119 EA   H   L       01FC             L  L    UUUUUUUU H    L
+1120 EA   H   L       UUUUUUUUUUUUUUUU U  U    UUUUUUUU H    L
+1124 EA   H   L       UUUUUUUUUUUUUUUU U  U    UUUUUUUU H    L
+1125 EA   H   L       UUUUUUUUUUUUUUUU U  U    EC       H    L
+1140 EA   H   L       01FB             L  L    EC       H    L
