@@ -1,53 +1,51 @@
 # The processor is reset by two negative flanks of the clock with _reset low, which are at 1000 and 2000, and one with
-# _reset high at 3000. Seven cycles later, at 10000, it fetches its first opcode from FF00. The byte of a write stands on
-# the latch 32 ns behind the end of the cycle: 5 of the strobe and 27 of the latch.
+# _reset high at 3000. The seventh cycle from there, which begins at 9000, fetches the first opcode from FF00. The byte of
+# a write stands on the latch 32 ns behind the end of the cycle: 5 of the strobe and 27 of the latch.
 
-time      _reset  ==(dT)=>  shown  address  sync
+time      _reset  =>  shown  address  sync
 
 # Reset clears the latch.
-0         L       500       00     X        X
-2500      H       500       00     X        L
+0         L           X      X        X
+27        L           00     X        X
+2500      H           00     X        L
 
 # The vector, and the first opcode 30 ns behind the flank
-8000      H       30        00     FFFC     L
-9000      H       30        00     FFFD     L
-10000     H       29        00     X        X
-10100     H       0         00     FF00     H
+7030      H           00     FFFC     L
+8030      H           00     FFFD     L
+9029      H           00     X        U
+9030      H           00     FF00     H
 
-
-# The memory is cleared by then, and the first dozen of primes follows, each sampled 1 ns before it comes and when it is there.
-2594000   H       31        00     X        X
-2594001   H       31        02     X        X
-4514000   H       31        02     X        X
-4514001   H       31        03     X        X
-5816000   H       31        03     X        X
-5816001   H       31        05     X        X
-6608000   H       31        05     X        X
-6608001   H       31        07     X        X
-7199000   H       31        07     X        X
-7199001   H       31        0B     X        X
-7571000   H       31        0B     X        X
-7571001   H       31        0D     X        X
-7907000   H       31        0D     X        X
-7907001   H       31        11     X        X
-7944000   H       31        11     X        X
-7944001   H       31        13     X        X
-8005000   H       31        13     X        X
-8005001   H       31        17     X        X
-8090000   H       31        17     X        X
-8090001   H       31        1D     X        X
-8127000   H       31        1D     X        X
-8127001   H       31        1F     X        X
-8212000   H       31        1F     X        X
-8212001   H       31        25     X        X
+# The first dozen of primes, each 1 ns before it comes and when it's there
+2593031   H           00     X        X
+2593032   H           02     X        X
+4513031   H           02     X        X
+4513032   H           03     X        X
+5815031   H           03     X        X
+5815032   H           05     X        X
+6607031   H           05     X        X
+6607032   H           07     X        X
+7198031   H           07     X        X
+7198032   H           0B     X        X
+7570031   H           0B     X        X
+7570032   H           0D     X        X
+7906031   H           0D     X        X
+7906032   H           11     X        X
+7943031   H           11     X        X
+7943032   H           13     X        X
+8004031   H           13     X        X
+8004032   H           17     X        X
+8089031   H           17     X        X
+8089032   H           1D     X        X
+8126031   H           1D     X        X
+8126032   H           1F     X        X
+8211031   H           1F     X        X
+8211032   H           25     X        X
 
 # The last prime, 251
-11326000  H       31        F1     X        X
-11326001  H       31        FB     X        X
+11325031  H           F1     X        X
+11325032  H           FB     X        X
 
-# 54 of them
-11395000  H       31        FB     X        X
-11395001  H       31        36     X        X
-
-# It stays.
-11495032  H       0         36     X        X
+# 54 of them, and that stays
+11394031  H           FB     X        X
+11394032  H           36     X        X
+11494032  H           36     X        X
