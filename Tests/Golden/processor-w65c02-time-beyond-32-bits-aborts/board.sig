@@ -1,0 +1,2 @@
+time RDY => cpu.A
+0    H      UUUUUUUUUUUUUUUU
