@@ -30,7 +30,7 @@ namespace fs = std::filesystem;
 constexpr const char* kAnything = "(any)\n";
 
 /// No case may get lost: the number is raised by hand with every new one.
-constexpr std::size_t kCaseCount = 816;
+constexpr std::size_t kCaseCount = 859;
 
 struct Outcome {
     std::string output;
