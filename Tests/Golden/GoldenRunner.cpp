@@ -8,7 +8,7 @@
 // A file `directory` names another working directory, as seen from the folder.
 //
 // `--approve` writes what the program does into these files, for a person to review as a diff. `--filter=TEXT` runs the
-// cases with TEXT in their path, `--program=FILE` and `--cases=FOLDER` say what to run.
+// cases with TEXT in their path, `--skip=TEXT` leaves those out, `--program=FILE` and `--cases=FOLDER` say what to run.
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -42,6 +42,7 @@ struct Options {
     fs::path program;
     fs::path cases;
     std::string filter;
+    std::string skip;
     bool approve = false;
 };
 
@@ -135,7 +136,7 @@ Options readOptions(int argc, char** argv) {
             options.cases = fs::absolute(path);
         } else if (argument == "--approve") {
             options.approve = true;
-        } else if (!takeValue(argument, "--filter=", options.filter)) {
+        } else if (!takeValue(argument, "--filter=", options.filter) && !takeValue(argument, "--skip=", options.skip)) {
             std::cerr << "Unknown argument: " << argument << "\n";
             std::exit(2);
         }
@@ -164,6 +165,7 @@ int main(int argc, char** argv) {
     std::size_t passed = 0;
     for (const fs::path& folder : folders) {
         if (folder.string().find(options.filter) == std::string::npos) continue;
+        if (!options.skip.empty() && folder.string().find(options.skip) != std::string::npos) continue;
         const Outcome actual = runCase(folder, options.program, scratch);
         if (options.approve) approve(folder, actual);
         check(folder, actual) ? ++passed : ++failed;
