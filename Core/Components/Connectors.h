@@ -68,11 +68,13 @@ public:
         "indicates the index of the last bit to be included.<p>It is legal to omit the colon and the <i>to</i> "
         "index.<p>There may be more than one such range specified, which then would be separated by semi-colons.<p>The "
         "bit index refers to where the input bits will be placed into the output port. There cannot be overlap between "
-        "to destination bits, and bits not referred to in the output will be left uninitialized. The bit width of the "
-        "input port will be deduced by the specification.<p><b>Examples:</b><p>3   - A single bit input that will be "
-        "mapped to bit #3 in the output.<p>3:0 - A four bit input that will be mapped to bits 3, 2, 1 and 0 in the "
-        "output.<p>0:3 - A four bit input mapped to 0, 1, 2, 3: i.e. in <b>bit reversed</b> order.<p>7;3:1 - Four bits "
-        "mapped to bits 7, 3, 2 and 1<p>7;3,2 - Three bits mapped to bits 7, 3 and 2."};
+        "to destination bits, and bits not referred to in the output will be left uninitialized. "
+        "The bit width of the input port will be deduced by the "
+        "specification.<p><b>Examples:</b>"
+        "<p>3   - A single bit input that will be mapped to bit #3 in the output."
+        "<p>3:0 - A four bit input that will be mapped to bits 3, 2, 1 and 0 in the output."
+        "<p>0:3 - A four bit input mapped to 0, 1, 2, 3: i.e. in <b>bit reversed</b> order."
+        "<p>7;3:1 - Four bits mapped to bits 7, 3, 2 and 1<p>7;3,2 - Three bits mapped to bits 7, 3 and 2."};
 
     Join(const std::string& name, const ParaMap& parameters);
     Join(const std::string& name, std::uint32_t size, const Declarations& ports);
@@ -99,11 +101,13 @@ public:
         "included.<p>It is legal to omit the colon and the <i>to</i> index.<p>There may be more than one such range "
         "specified, which then would be separated by semi-colons.<p>The bit index refers to where the output bits "
         "taken from in the input port. There can be overlap between to source bits, i.e. copying a input bit to "
-        "multiple destinations is allowed. The bit width of the output port will be deduced by the specification. "
-        "<p><b>Examples:</b><p>3   - A single bit output that will be generated from bit #3 in the input.<p>3:0 - A "
-        "four bit output that will be taken form bits 3, 2, 1 and 0 in the input.<p>0:3 - A four bit output generated "
-        "from bits 0, 1, 2, 3: i.e. in <b>bit reversed</b> order.<p>7;3:1 - Four bits mapped from bits 7, 3, 2 and "
-        "1<p>7;3,2 - Three bits mapped from bits 7, 3 and 2."};
+        "multiple destinations is allowed. "
+        "The bit width of the output port will be deduced by the "
+        "specification. <p><b>Examples:</b>"
+        "<p>3   - A single bit output that will be generated from bit #3 in the input."
+        "<p>3:0 - A four bit output that will be taken form bits 3, 2, 1 and 0 in the input."
+        "<p>0:3 - A four bit output generated from bits 0, 1, 2, 3: i.e. in <b>bit reversed</b> order."
+        "<p>7;3:1 - Four bits mapped from bits 7, 3, 2 and 1<p>7;3,2 - Three bits mapped from bits 7, 3 and 2."};
 
     Split(const std::string& name, const ParaMap& parameters);
     Split(const std::string& name, std::uint32_t size, const Declarations& ports);
@@ -136,7 +140,7 @@ public:
         "index.<p>There may be more than one such range specified, which then would be separated by semi-colons.<p>The "
         "bit index refers to the bits of the internal net. There can be overlap between the bits of different ports, "
         "i.e. the nets attached to them are tied together on these bits. The bit width of the port will be deduced by "
-        "the specification.<p><b>Examples:</b><p>3   - A single bit port that will be mapped to bit #3 of the internal "
+        "the expression.<p><b>Examples:</b><p>3   - A single bit port that will be mapped to bit #3 of the internal "
         "net.<p>3:0 - A four bit port that will be mapped to bits 3, 2, 1 and 0 of the internal net.<p>0:3 - A four "
         "bit port mapped to 0, 1, 2, 3: i.e. in <b>bit reversed</b> order.<p>7;3:1 - Four bits mapped to bits 7, 3, 2 "
         "and 1<p>7;3,2 - Three bits mapped to bits 7, 3 and 2.<p><b>Port Examples</b>"

@@ -103,8 +103,9 @@ TEST(LibraryDocumentation, OfSplit) {
               "<i>to</i> index.<p>There may be more than one such range specified, which then would be separated by "
               "semi-colons.<p>The bit index refers to where the output bits taken from in the input port. There can "
               "be overlap between to source bits, i.e. copying a input bit to multiple destinations is allowed. The "
-              "bit width of the output port will be deduced by the specification. <p><b>Examples:</b><p>3   - A "
-              "single bit output that will be generated from bit #3 in the input.<p>3:0 - A four bit output that will "
+              "bit width of the output port will be deduced by the "
+              "specification. <p><b>Examples:</b><p>3   - A single bit output that will be generated from bit #3 in "
+              "the input.<p>3:0 - A four bit output that will "
               "be taken form bits 3, 2, 1 and 0 in the input.<p>0:3 - A four bit output generated from bits 0, 1, 2, "
               "3: i.e. in <b>bit reversed</b> order.<p>7;3:1 - Four bits mapped from bits 7, 3, 2 and 1<p>7;3,2 - "
               "Three bits mapped from bits 7, 3 and 2.");
