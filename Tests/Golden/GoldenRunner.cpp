@@ -8,7 +8,8 @@
 // A file `directory` names another working directory, as seen from the folder.
 //
 // `--approve` writes what the program does into these files, for a person to review as a diff. `--filter=TEXT` runs the
-// cases with TEXT in their path, `--skip=TEXT` leaves those out, `--program=FILE` and `--cases=FOLDER` say what to run.
+// cases with TEXT in their path, `--skip=TEXT` leaves those out, `--shard=I/N` runs every Nth case from the Ith on
+// (counted from 0), `--program=FILE` and `--cases=FOLDER` say what to run.
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -43,6 +44,8 @@ struct Options {
     fs::path cases;
     std::string filter;
     std::string skip;
+    std::size_t shard = 0;
+    std::size_t shards = 1;
     bool approve = false;
 };
 
@@ -129,11 +132,14 @@ Options readOptions(int argc, char** argv) {
     Options options;
     for (int i = 1; i < argc; ++i) {
         const std::string argument = argv[i];
-        std::string path;
-        if (takeValue(argument, "--program=", path)) {
-            options.program = fs::absolute(path);
-        } else if (takeValue(argument, "--cases=", path)) {
-            options.cases = fs::absolute(path);
+        std::string value;
+        if (takeValue(argument, "--program=", value)) {
+            options.program = fs::absolute(value);
+        } else if (takeValue(argument, "--cases=", value)) {
+            options.cases = fs::absolute(value);
+        } else if (takeValue(argument, "--shard=", value)) {
+            options.shard = std::stoul(value);
+            options.shards = std::stoul(value.substr(value.find('/') + 1));
         } else if (argument == "--approve") {
             options.approve = true;
         } else if (!takeValue(argument, "--filter=", options.filter) && !takeValue(argument, "--skip=", options.skip)) {
@@ -163,7 +169,8 @@ int main(int argc, char** argv) {
     const std::vector<fs::path> folders = findCases(options.cases);
     std::size_t failed = 0;
     std::size_t passed = 0;
-    for (const fs::path& folder : folders) {
+    for (std::size_t i = options.shard; i < folders.size(); i += options.shards) {
+        const fs::path& folder = folders[i];
         if (folder.string().find(options.filter) == std::string::npos) continue;
         if (!options.skip.empty() && folder.string().find(options.skip) != std::string::npos) continue;
         const Outcome actual = runCase(folder, options.program, scratch);
