@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -322,7 +321,7 @@ struct CommonSequences {
     };
     /// `AtVector` is what the core does beside reading the low byte of the vector.
     template <auto AtVector>
-    static constexpr Program breakSequence = {
+    static constexpr Program breakWith = {
         step<CycleAction::readPc>,
         step<CycleAction::skipSignature, CycleAction::pushUnlessReset<CycleAction::pcHigh>>,
         step<CycleAction::pushUnlessReset<CycleAction::pcLow>>,
@@ -331,56 +330,6 @@ struct CommonSequences {
         step<CycleAction::readLatch, CycleAction::latchLow>,
         step<CycleAction::jump, fetch>,
     };
-};
-
-/// Opcodes of one instruction, by addressing mode.
-struct Opcodes {
-    static constexpr int kNone = -1;
-
-    int imm = kNone;
-    int zp = kNone;
-    int zpX = kNone;
-    int zpY = kNone;
-    int abs = kNone;
-    int absX = kNone;
-    int absY = kNone;
-    int indX = kNone;   ///< (zp,X)
-    int indY = kNone;   ///< (zp),Y
-    int zpInd = kNone;  ///< (zp)
-};
-
-/// All instructions of a processor while they are put together, at compile time.
-template <class Core>
-class ProgramTable {
-public:
-    using Program = tarnsim::Program<Core>;
-    using Step = typename Program::Step;
-
-    /// An opcode that is given twice doesn't compile. No opcode, no entry.
-    constexpr void set(int opcode, const Program& program) {
-        if (opcode == Opcodes::kNone) return;
-        Program& entry = programs_.at(static_cast<std::size_t>(opcode));
-        if (entry.length != 0) throw "opcode given twice";
-        entry = program;
-    }
-
-    constexpr bool isComplete() const {
-        return std::ranges::all_of(programs_, [](const Program& each) { return each.length > 0; });
-    }
-
-    /// The table that a tick goes through, with `unreachable` behind the last step of each instruction.
-    constexpr std::array<Step, 256 * kMostSteps> flatten(Step unreachable) const {
-        std::array<Step, 256 * kMostSteps> table{};
-        for (std::size_t i = 0; i < table.size(); ++i) {
-            const Program& program = programs_[i / kMostSteps];
-            const std::size_t step = i % kMostSteps;
-            table[i] = step < program.length ? program.steps[step] : unreachable;
-        }
-        return table;
-    }
-
-private:
-    std::array<Program, 256> programs_{};
 };
 
 }  // namespace tarnsim
