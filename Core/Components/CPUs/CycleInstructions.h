@@ -117,7 +117,7 @@ public:
     template <auto Change>
     constexpr void count(const Opcodes& at) {
         modify<Change>(at);
-        set(at.absX, Sequences::template absoluteIndexedCount<Change>);
+        set(at.absX, Sequences::template absoluteIndexedModify<Change, CycleOperation::X>);
     }
     template <auto Op>
     constexpr void implied(int opcode) {

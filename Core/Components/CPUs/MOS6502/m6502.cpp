@@ -106,72 +106,23 @@ void jam(CycleCore& c) {
     --c.ir;
 }
 
-/// The sequences in which the NMOS chip is on its own: while it corrects the page of an indexed address it reads at the
-/// wrong one, and before it writes a changed byte it writes the old one.
-struct Sequences : CommonSequences<m6502> {
-    template <auto Op, auto index>
-    static constexpr Program absoluteIndexedRead = {
-        step<readOperand>,
-        step<latchLow, readOperand>,
-        step<latchHigh, readUncarried<index>, skipIfSamePage<index>>,
-        step<readIndexed<index>>,
-        step<Op, fetch>,
-    };
-    template <auto Op>
-    static constexpr Program indirectIndexedRead = {
-        step<readOperand>,
-        step<latchLow, readLatch>,
-        step<readNextZeroPage, latchLow>,
-        step<latchHigh, readUncarried<Y>, skipIfSamePage<Y>>,
-        step<readIndexed<Y>>,
-        step<Op, fetch>,
-    };
-    template <auto Value, auto index>
-    static constexpr Program absoluteIndexedWrite = {
-        step<readOperand>,
-        step<latchLow, readOperand>,
-        step<latchHigh, readUncarried<index>>,
-        step<readIndexed<index>, write<Value>>,
-        step<fetch>,
-    };
-    template <auto Value>
-    static constexpr Program indirectIndexedWrite = {
-        step<readOperand>,
-        step<latchLow, readLatch>,
-        step<readNextZeroPage, latchLow>,
-        step<latchHigh, readUncarried<Y>>,
-        step<readIndexed<Y>, write<Value>>,
-        step<fetch>,
-    };
+/// While the NMOS chip corrects the page of an indexed address it reads at the wrong one, and before it writes a
+/// changed byte it writes the old one.
+struct OwnCycles {
+    template <Register index>
+    static void carryRead(CycleCore& c) {
+        readUncarried<index>(c);
+        skipIfSamePage<index>(c);
+    }
+    template <Register index>
+    static constexpr auto carry = readUncarried<index>;
+    static constexpr auto beforeChange = writeBack;
+};
 
-    template <auto Change>
-    static constexpr Program zeroPageModify = {
-        step<readOperand>, step<readZeroPage>, step<latchByte, writeBack>, step<writeChanged<Change>>, step<fetch>,
-    };
-    template <auto Change>
-    static constexpr Program zeroPageIndexedModify = {
-        step<readOperand>,          step<latchLow, readLatch>,  step<indexZeroPage<X>, readLatch>,
-        step<latchByte, writeBack>, step<writeChanged<Change>>, step<fetch>,
-    };
-    template <auto Change>
-    static constexpr Program absoluteModify = {
-        step<readOperand>,          step<latchLow, readOperand>, step<latchHigh, readLatch>,
-        step<latchByte, writeBack>, step<writeChanged<Change>>,  step<fetch>,
-    };
-    template <auto Change, auto index>
-    static constexpr Program absoluteIndexedModify = {
-        step<readOperand>,
-        step<latchLow, readOperand>,
-        step<latchHigh, readUncarried<index>>,
-        step<readIndexed<index>>,
-        step<latchByte, writeBack>,
-        step<writeChanged<Change>>,
-        step<fetch>,
-    };
+/// The sequences in which the NMOS chip is on its own.
+struct Sequences : CommonSequences<m6502, OwnCycles> {
     template <auto Change>
     static constexpr Program absoluteIndexedShift = absoluteIndexedModify<Change, X>;
-    template <auto Change>
-    static constexpr Program absoluteIndexedCount = absoluteIndexedModify<Change, X>;
     template <auto Change>
     static constexpr Program indexedIndirectModify = {
         step<readOperand>,
@@ -211,7 +162,7 @@ struct Sequences : CommonSequences<m6502> {
 /// What this chip has beside the common instructions.
 class InstructionSet : public InstructionTable<m6502, Sequences> {
 public:
-    /// An undocumented change, with whose result the accumulator goes on: in all modes of the accumulator.
+    /// A change with whose result the accumulator goes on; undocumented, in all modes of the accumulator.
     template <auto Change>
     constexpr void modifyAndUse(const Opcodes& at) {
         modify<Change>(at);

@@ -54,63 +54,36 @@ void stop(w65c02& c) {
 void readLastOperand(CycleCore& c) {
     setAddress(c, c.pc - 1U);
 }
-/// The same while an index is carried over a page; not needed without a carry, when the indexed address comes at once.
-template <Register index>
-void readWhileCarrying(CycleCore& c) {
-    if (crossesPage<index>(c)) {
-        readLastOperand(c);
-    } else {
-        readIndexed<index>(c);
-        ++c.ir;
-    }
-}
 
-/// The sequences in which the CMOS chip is on its own: while it needs a cycle for itself it reads something harmless
-/// again, and before it writes a changed byte it reads the old one twice.
-struct Sequences : CommonSequences<w65c02> {
+/// While the CMOS chip needs a cycle for itself it reads something harmless again; before it writes a changed byte it
+/// reads the old one twice.
+struct OwnCycles {
+    /// Without a carry the indexed address comes at once.
+    template <Register index>
+    static void carryRead(CycleCore& c) {
+        if (crossesPage<index>(c)) {
+            readLastOperand(c);
+        } else {
+            readIndexed<index>(c);
+            ++c.ir;
+        }
+    }
+    template <Register index>
+    static constexpr auto carry = readLastOperand;
+    static constexpr auto beforeChange = nop;
+};
+
+/// The sequences in which the CMOS chip is on its own.
+struct Sequences : CommonSequences<w65c02, OwnCycles> {
     template <auto Op>
     static constexpr Program oneCycle = {
         step<Op, fetch>,
     };
 
-    template <auto Op, auto index>
-    static constexpr Program absoluteIndexedRead = {
-        step<readOperand>,
-        step<latchLow, readOperand>,
-        step<latchHigh, readWhileCarrying<index>>,
-        step<readIndexed<index>>,
-        step<Op, fetch>,
-    };
-    template <auto Op>
-    static constexpr Program indirectIndexedRead = {
-        step<readOperand>,
-        step<latchLow, readLatch>,
-        step<readNextZeroPage, latchLow>,
-        step<latchHigh, readWhileCarrying<Y>>,
-        step<readIndexed<Y>>,
-        step<Op, fetch>,
-    };
     template <auto Op>
     static constexpr Program indirectRead = {
         step<readOperand>,          step<latchLow, readLatch>, step<readNextZeroPage, latchLow>,
         step<latchHigh, readLatch>, step<Op, fetch>,
-    };
-    template <auto Value, auto index>
-    static constexpr Program absoluteIndexedWrite = {
-        step<readOperand>,
-        step<latchLow, readOperand>,
-        step<latchHigh, readLastOperand>,
-        step<readIndexed<index>, write<Value>>,
-        step<fetch>,
-    };
-    template <auto Value>
-    static constexpr Program indirectIndexedWrite = {
-        step<readOperand>,
-        step<latchLow, readLatch>,
-        step<readNextZeroPage, latchLow>,
-        step<latchHigh, readLastOperand>,
-        step<readIndexed<Y>, write<Value>>,
-        step<fetch>,
     };
     template <auto Value>
     static constexpr Program indirectWrite = {
@@ -121,39 +94,14 @@ struct Sequences : CommonSequences<w65c02> {
         step<fetch>,
     };
 
-    template <auto Change>
-    static constexpr Program zeroPageModify = {
-        step<readOperand>, step<readZeroPage>, step<latchByte>, step<writeChanged<Change>>, step<fetch>,
-    };
-    template <auto Change>
-    static constexpr Program zeroPageIndexedModify = {
-        step<readOperand>, step<latchLow, readLatch>,  step<indexZeroPage<X>, readLatch>,
-        step<latchByte>,   step<writeChanged<Change>>, step<fetch>,
-    };
-    template <auto Change>
-    static constexpr Program absoluteModify = {
-        step<readOperand>, step<latchLow, readOperand>, step<latchHigh, readLatch>,
-        step<latchByte>,   step<writeChanged<Change>>,  step<fetch>,
-    };
-    /// Counting takes the cycle of the carry always.
-    template <auto Change>
-    static constexpr Program absoluteIndexedCount = {
-        step<readOperand>,
-        step<latchLow, readOperand>,
-        step<latchHigh, readLastOperand>,
-        step<readIndexed<X>>,
-        step<latchByte>,
-        step<writeChanged<Change>>,
-        step<fetch>,
-    };
-    /// Shifting only when there is a carry.
+    /// A shift takes the cycle of the carry only when there is one; other changes take it always.
     template <auto Change>
     static constexpr Program absoluteIndexedShift = {
         step<readOperand>,
         step<latchLow, readOperand>,
-        step<latchHigh, readWhileCarrying<X>>,
+        step<latchHigh, OwnCycles::carryRead<X>>,
         step<readIndexed<X>>,
-        step<latchByte>,
+        step<latchByte, OwnCycles::beforeChange>,
         step<writeChanged<Change>>,
         step<fetch>,
     };
