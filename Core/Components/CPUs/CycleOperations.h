@@ -10,6 +10,10 @@
 namespace tarnsim::CycleOperation {
 
 using Register = std::uint8_t CycleCore::*;
+inline constexpr Register A = &CycleCore::a;
+inline constexpr Register X = &CycleCore::x;
+inline constexpr Register Y = &CycleCore::y;
+inline constexpr Register S = &CycleCore::s;
 
 // Operations on the byte that was read.
 

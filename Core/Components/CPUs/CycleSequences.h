@@ -1,11 +1,11 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 
+#include "Core/Components/CPUs/CycleActions.h"
 #include "Core/Components/CPUs/CycleCore.h"
 #include "Core/Components/CPUs/CycleOperations.h"
 
@@ -33,154 +33,13 @@ struct Program {
     }
 };
 
-namespace CycleAction {
-
-// Addresses. `ad` is latched where a later step needs it.
-
-inline void readPc(CycleCore& c) {
-    setAddress(c, c.pc);
-}
-inline void readOperand(CycleCore& c) {
-    setAddress(c, c.pc++);
-}
-inline void latchLow(CycleCore& c) {
-    c.ad = dataOf(c);
-}
-inline void latchHigh(CycleCore& c) {
-    c.ad = static_cast<std::uint16_t>(c.ad | unsigned{dataOf(c)} << 8U);
-}
-inline void readLatch(CycleCore& c) {
-    setAddress(c, c.ad);
-}
-inline void readZeroPage(CycleCore& c) {
-    setAddress(c, dataOf(c));
-}
-/// The byte behind the latched zero-page address, which is in the zero page too.
-inline void readNextZeroPage(CycleCore& c) {
-    setAddress(c, (c.ad + 1U) & 0xFFU);
-}
-/// Adds an index within the zero page.
-template <auto index>
-void indexZeroPage(CycleCore& c) {
-    c.ad = static_cast<std::uint8_t>(c.ad + c.*index);
-}
-/// The sum of the latched address and an index, without the carry into the high byte.
-template <auto index>
-void readUncarried(CycleCore& c) {
-    setAddress(c, (c.ad & 0xFF00U) | ((c.ad + c.*index) & 0xFFU));
-}
-template <auto index>
-bool crossesPage(const CycleCore& c) {
-    return ((c.ad ^ (c.ad + c.*index)) & 0xFF00) != 0;
-}
-template <auto index>
-void readIndexed(CycleCore& c) {
-    setAddress(c, static_cast<unsigned>(c.ad + c.*index));
-}
-/// Leaves out the next step if the address was right already.
-template <auto index>
-void skipIfSamePage(CycleCore& c) {
-    if (!crossesPage<index>(c)) ++c.ir;
-}
-
-// Data
-
-inline void latchByte(CycleCore& c) {
-    c.ad = dataOf(c);
-}
-/// The same byte back, as every NMOS read-modify-write does before it writes the new one.
-inline void writeBack(CycleCore& c) {
-    writeByte(c, dataOf(c));
-}
-template <auto Change>
-void writeChanged(CycleCore& c) {
-    writeByte(c, Change(c, static_cast<std::uint8_t>(c.ad)));
-}
-template <auto Value>
-void write(CycleCore& c) {
-    writeByte(c, Value(c));
-}
-
-// Stack
-
-inline void readStack(CycleCore& c) {
-    setAddress(c, 0x100U | c.s);
-}
-inline void push(CycleCore& c) {
-    setAddress(c, 0x100U | c.s--);
-}
-/// The byte under the top comes next.
-inline void pull(CycleCore& c) {
-    setAddress(c, 0x100U | c.s++);
-}
-inline std::uint8_t pcHigh(CycleCore& c) {
-    return static_cast<std::uint8_t>(c.pc >> 8U);
-}
-inline std::uint8_t pcLow(CycleCore& c) {
-    return static_cast<std::uint8_t>(c.pc);
-}
-/// From the latched low byte and the high byte just read.
-inline void jump(CycleCore& c) {
-    c.pc = static_cast<std::uint16_t>(unsigned{dataOf(c)} << 8U | (c.ad & 0xFFU));
-}
-
-// Branches
-
-inline void latchTarget(CycleCore& c) {
-    c.ad = static_cast<std::uint16_t>(c.pc + static_cast<std::int8_t>(dataOf(c)));
-}
-/// Always taken, for BRA.
-inline constexpr std::uint8_t kAlways = 0;
-/// Ends the instruction unless the flag is as the condition wants it.
-template <std::uint8_t flag, bool isSet>
-void fetchUnlessTaken(CycleCore& c) {
-    if (flag != kAlways && ((c.p & flag) != 0) != isSet) fetch(c);
-}
-inline void readTargetUncarried(CycleCore& c) {
-    setAddress(c, (c.pc & 0xFF00U) | (c.ad & 0xFFU));
-}
-/// Ends the instruction, and delays interrupts by one cycle.
-inline void fetchIfSamePage(CycleCore& c) {
-    if (((c.pc ^ c.ad) & 0xFF00) != 0) return;
-    c.pc = c.ad;
-    c.irqPipeline = static_cast<std::uint16_t>(c.irqPipeline >> 1U);
-    c.nmiPipeline = static_cast<std::uint16_t>(c.nmiPipeline >> 1U);
-    fetch(c);
-}
-inline void goToLatch(CycleCore& c) {
-    c.pc = c.ad;
-}
-
-// The BRK sequence, which interrupts and reset share
-
-inline void skipSignature(CycleCore& c) {
-    if ((c.brkFlags & (BreakCause::kIrq | BreakCause::kNmi)) == 0) ++c.pc;
-}
-/// As a push, but a reset only reads.
-template <auto Value>
-void pushUnlessReset(CycleCore& c) {
-    push(c);
-    const std::uint64_t direction = c.brkFlags & BreakCause::kReset ? CyclePin::kRW : 0;
-    writeByte(c, Value(c));
-    c.pins |= direction;
-}
-inline void latchVector(CycleCore& c) {
-    if ((c.brkFlags & BreakCause::kReset) != 0) {
-        c.ad = 0xFFFC;
-    } else {
-        c.ad = (c.brkFlags & BreakCause::kNmi) != 0 ? 0xFFFA : 0xFFFE;
-    }
-}
-inline void readVector(CycleCore& c) {
-    setAddress(c, c.ad++);
-    c.p |= CycleFlag::kI | CycleFlag::kB;
-    c.brkFlags = 0;
-}
-
-}  // namespace CycleAction
-
-/// The sequences that both processors have in common.
-template <class Core>
+/// The sequences that both processors have in common. `OwnCycles` says what a chip does in the cycles that it needs for
+/// itself:
+/// - `carryRead<index>`: the cycle that corrects the high byte of an indexed address before a read; leaves out the next
+///   step if that address was right at once
+/// - `carry<index>`: the same before a write or a change, which always takes it
+/// - `beforeChange`: the cycle between reading a byte and writing the changed one
+template <class Core, class OwnCycles>
 struct CommonSequences {
     using Program = tarnsim::Program<Core>;
 
@@ -234,6 +93,24 @@ struct CommonSequences {
         step<Op, fetch>,
     };
 
+    template <auto Op, auto index>
+    static constexpr Program absoluteIndexedRead = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::latchLow, CycleAction::readOperand>,
+        step<CycleAction::latchHigh, OwnCycles::template carryRead<index>>,
+        step<CycleAction::readIndexed<index>>,
+        step<Op, fetch>,
+    };
+    template <auto Op>
+    static constexpr Program indirectIndexedRead = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::latchLow, CycleAction::readLatch>,
+        step<CycleAction::readNextZeroPage, CycleAction::latchLow>,
+        step<CycleAction::latchHigh, OwnCycles::template carryRead<&CycleCore::y>>,
+        step<CycleAction::readIndexed<&CycleCore::y>>,
+        step<Op, fetch>,
+    };
+
     // Writes
 
     template <auto Value>
@@ -263,6 +140,63 @@ struct CommonSequences {
         step<CycleAction::indexZeroPage<&CycleCore::x>, CycleAction::readLatch>,
         step<CycleAction::readNextZeroPage, CycleAction::latchLow>,
         step<CycleAction::latchHigh, CycleAction::readLatch, CycleAction::write<Value>>,
+        step<fetch>,
+    };
+
+    template <auto Value, auto index>
+    static constexpr Program absoluteIndexedWrite = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::latchLow, CycleAction::readOperand>,
+        step<CycleAction::latchHigh, OwnCycles::template carry<index>>,
+        step<CycleAction::readIndexed<index>, CycleAction::write<Value>>,
+        step<fetch>,
+    };
+    template <auto Value>
+    static constexpr Program indirectIndexedWrite = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::latchLow, CycleAction::readLatch>,
+        step<CycleAction::readNextZeroPage, CycleAction::latchLow>,
+        step<CycleAction::latchHigh, OwnCycles::template carry<&CycleCore::y>>,
+        step<CycleAction::readIndexed<&CycleCore::y>, CycleAction::write<Value>>,
+        step<fetch>,
+    };
+
+    // Changes of a byte in memory
+
+    template <auto Change>
+    static constexpr Program zeroPageModify = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::readZeroPage>,
+        step<CycleAction::latchByte, OwnCycles::beforeChange>,
+        step<CycleAction::writeChanged<Change>>,
+        step<fetch>,
+    };
+    template <auto Change>
+    static constexpr Program zeroPageIndexedModify = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::latchLow, CycleAction::readLatch>,
+        step<CycleAction::indexZeroPage<&CycleCore::x>, CycleAction::readLatch>,
+        step<CycleAction::latchByte, OwnCycles::beforeChange>,
+        step<CycleAction::writeChanged<Change>>,
+        step<fetch>,
+    };
+    template <auto Change>
+    static constexpr Program absoluteModify = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::latchLow, CycleAction::readOperand>,
+        step<CycleAction::latchHigh, CycleAction::readLatch>,
+        step<CycleAction::latchByte, OwnCycles::beforeChange>,
+        step<CycleAction::writeChanged<Change>>,
+        step<fetch>,
+    };
+    template <auto Change, auto index>
+    static constexpr Program absoluteIndexedModify = {
+        step<CycleAction::readOperand>,
+        step<CycleAction::latchLow, CycleAction::readOperand>,
+        step<CycleAction::latchHigh, OwnCycles::template carry<index>>,
+        step<CycleAction::readIndexed<index>>,
+        step<CycleAction::latchByte, OwnCycles::beforeChange>,
+        step<CycleAction::writeChanged<Change>>,
         step<fetch>,
     };
 
@@ -322,7 +256,7 @@ struct CommonSequences {
     };
     /// `AtVector` is what the core does beside reading the low byte of the vector.
     template <auto AtVector>
-    static constexpr Program breakSequence = {
+    static constexpr Program breakWith = {
         step<CycleAction::readPc>,
         step<CycleAction::skipSignature, CycleAction::pushUnlessReset<CycleAction::pcHigh>>,
         step<CycleAction::pushUnlessReset<CycleAction::pcLow>>,
@@ -331,56 +265,6 @@ struct CommonSequences {
         step<CycleAction::readLatch, CycleAction::latchLow>,
         step<CycleAction::jump, fetch>,
     };
-};
-
-/// Opcodes of one instruction, by addressing mode.
-struct Opcodes {
-    static constexpr int kNone = -1;
-
-    int imm = kNone;
-    int zp = kNone;
-    int zpX = kNone;
-    int zpY = kNone;
-    int abs = kNone;
-    int absX = kNone;
-    int absY = kNone;
-    int indX = kNone;   ///< (zp,X)
-    int indY = kNone;   ///< (zp),Y
-    int zpInd = kNone;  ///< (zp)
-};
-
-/// All instructions of a processor while they are put together, at compile time.
-template <class Core>
-class ProgramTable {
-public:
-    using Program = tarnsim::Program<Core>;
-    using Step = typename Program::Step;
-
-    /// An opcode that is given twice doesn't compile. No opcode, no entry.
-    constexpr void set(int opcode, const Program& program) {
-        if (opcode == Opcodes::kNone) return;
-        Program& entry = programs_.at(static_cast<std::size_t>(opcode));
-        if (entry.length != 0) throw "opcode given twice";
-        entry = program;
-    }
-
-    constexpr bool isComplete() const {
-        return std::ranges::all_of(programs_, [](const Program& each) { return each.length > 0; });
-    }
-
-    /// The table that a tick goes through, with `unreachable` behind the last step of each instruction.
-    constexpr std::array<Step, 256 * kMostSteps> flatten(Step unreachable) const {
-        std::array<Step, 256 * kMostSteps> table{};
-        for (std::size_t i = 0; i < table.size(); ++i) {
-            const Program& program = programs_[i / kMostSteps];
-            const std::size_t step = i % kMostSteps;
-            table[i] = step < program.length ? program.steps[step] : unreachable;
-        }
-        return table;
-    }
-
-private:
-    std::array<Program, 256> programs_{};
 };
 
 }  // namespace tarnsim

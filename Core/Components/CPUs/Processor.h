@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "Core/Components/CPUs/CycleCore.h"
 #include "Core/Components/Component.h"
@@ -10,6 +11,20 @@
 #include "Core/Simulation/Port.h"
 
 namespace tarnsim {
+
+/// Help text of the bus times; the last paragraph is for a processor with a `BE`.
+inline constexpr std::string_view kBusTimesDocumentation =
+    "<b>t_ads</b> The Address Setup Time, in ns. Time from negative clock flank until address, R/W, SYNC and _VP "
+    "has stabilized. Default 30 ns.<p>"
+    "<b>t_ah</b> The Address Hold Time, in ns. The time the address, R/W, SYNC and _VP are stable after negative "
+    "clock flank. Default 10 ns.<p>"
+    "<b>t_mds</b> The Write Delay Time, in ns. The time after positive clock flank that the (write) data becomes "
+    "valid. Default 25 ns.<p>"
+    "<b>t_dhw</b> The Write Hold Time, in ns. The time after negative clock flank that the (write) data still is "
+    "valid. Default 10 ns.<p>"
+    "<b>t_bvd</b> The BE to Valida Data time, in ns. The time from positive BE flank until address, R/W and data "
+    "lines are valid. Default is 25 ns. The data sheet provides no value for the negative flank until invalid "
+    "data, but states that it probably is the same, and that is the value used in this model.";
 
 /// What the processors have in common that put a cycle core on pins: the core's record and mask, the pins that all of
 /// them have, the data bus inside, and access for hosts. `Part` is the processor; it says how its read/write pin is

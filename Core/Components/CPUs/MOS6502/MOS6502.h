@@ -10,18 +10,9 @@ namespace tarnsim {
 /// The NMOS 6502 on its pins.
 class MOS6502 final : public Processor<MOS6502, m6502, m6502Descriptor> {
 public:
-    static constexpr PartInfo info = {
-        "MOS6502", "(t_ads=30,t_ah=10,t_mds=25,t_dhw=10)",
-        // It has no _VP; the text is the other processor's.
-        "<b>t_ads</b> The Address Setup Time, in ns. Time from negative clock flank until address, R/W, SYNC and _VP "
-        "has "
-        "stabilized. Default 30 ns.<p><b>t_ah</b> The Address Hold Time, in ns. The time the address, R/W, SYNC and "
-        "_VP "
-        "are stable after negative clock flank. Default 10 ns.<p><b>t_mds</b> The Write Delay Time, in ns. The time "
-        "after "
-        "positive clock flank that the (write) data becomes valid. Default 25 ns.<p><b>t_dhw</b> The Write Hold Time, "
-        "in "
-        "ns. The time after negative clock flank that the (write) data still is valid. Default 10 ns.<p>"};
+    static constexpr PartInfo info = {"MOS6502", "(t_ads=30,t_ah=10,t_mds=25,t_dhw=10)",
+                                      // It has no _VP; the text is the other processor's.
+                                      kBusTimesDocumentation.substr(0, kBusTimesDocumentation.find("<b>t_bvd</b>"))};
     static constexpr const char* kReadWrite = "_R/W";
 
     MOS6502(const std::string& name, const ParaMap& parameters);

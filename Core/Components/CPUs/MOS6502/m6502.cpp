@@ -1,6 +1,6 @@
 #include "Core/Components/CPUs/MOS6502/m6502.h"
 
-#include "Core/Components/CPUs/CycleSequences.h"
+#include "Core/Components/CPUs/CycleInstructions.h"
 
 namespace tarnsim {
 
@@ -8,11 +8,6 @@ namespace {
 
 using namespace CycleAction;
 using namespace CycleOperation;
-
-constexpr Register A = &CycleCore::a;
-constexpr Register X = &CycleCore::x;
-constexpr Register Y = &CycleCore::y;
-constexpr Register S = &CycleCore::s;
 
 // The undocumented operations on a byte that was read.
 
@@ -111,68 +106,23 @@ void jam(CycleCore& c) {
     --c.ir;
 }
 
-/// The sequences in which the NMOS chip is on its own: while it corrects the page of an indexed address it reads at the
-/// wrong one, and before it writes a changed byte it writes the old one.
-struct Sequences : CommonSequences<m6502> {
-    template <auto Op, auto index>
-    static constexpr Program absoluteIndexedRead = {
-        step<readOperand>,
-        step<latchLow, readOperand>,
-        step<latchHigh, readUncarried<index>, skipIfSamePage<index>>,
-        step<readIndexed<index>>,
-        step<Op, fetch>,
-    };
-    template <auto Op>
-    static constexpr Program indirectIndexedRead = {
-        step<readOperand>,
-        step<latchLow, readLatch>,
-        step<readNextZeroPage, latchLow>,
-        step<latchHigh, readUncarried<Y>, skipIfSamePage<Y>>,
-        step<readIndexed<Y>>,
-        step<Op, fetch>,
-    };
-    template <auto Value, auto index>
-    static constexpr Program absoluteIndexedWrite = {
-        step<readOperand>,
-        step<latchLow, readOperand>,
-        step<latchHigh, readUncarried<index>>,
-        step<readIndexed<index>, write<Value>>,
-        step<fetch>,
-    };
-    template <auto Value>
-    static constexpr Program indirectIndexedWrite = {
-        step<readOperand>,
-        step<latchLow, readLatch>,
-        step<readNextZeroPage, latchLow>,
-        step<latchHigh, readUncarried<Y>>,
-        step<readIndexed<Y>, write<Value>>,
-        step<fetch>,
-    };
+/// While the NMOS chip corrects the page of an indexed address it reads at the wrong one, and before it writes a
+/// changed byte it writes the old one.
+struct OwnCycles {
+    template <Register index>
+    static void carryRead(CycleCore& c) {
+        readUncarried<index>(c);
+        skipIfSamePage<index>(c);
+    }
+    template <Register index>
+    static constexpr auto carry = readUncarried<index>;
+    static constexpr auto beforeChange = writeBack;
+};
 
+/// The sequences in which the NMOS chip is on its own.
+struct Sequences : CommonSequences<m6502, OwnCycles> {
     template <auto Change>
-    static constexpr Program zeroPageModify = {
-        step<readOperand>, step<readZeroPage>, step<latchByte, writeBack>, step<writeChanged<Change>>, step<fetch>,
-    };
-    template <auto Change>
-    static constexpr Program zeroPageIndexedModify = {
-        step<readOperand>,          step<latchLow, readLatch>,  step<indexZeroPage<X>, readLatch>,
-        step<latchByte, writeBack>, step<writeChanged<Change>>, step<fetch>,
-    };
-    template <auto Change>
-    static constexpr Program absoluteModify = {
-        step<readOperand>,          step<latchLow, readOperand>, step<latchHigh, readLatch>,
-        step<latchByte, writeBack>, step<writeChanged<Change>>,  step<fetch>,
-    };
-    template <auto Change, auto index>
-    static constexpr Program absoluteIndexedModify = {
-        step<readOperand>,
-        step<latchLow, readOperand>,
-        step<latchHigh, readUncarried<index>>,
-        step<readIndexed<index>>,
-        step<latchByte, writeBack>,
-        step<writeChanged<Change>>,
-        step<fetch>,
-    };
+    static constexpr Program absoluteIndexedShift = absoluteIndexedModify<Change, X>;
     template <auto Change>
     static constexpr Program indexedIndirectModify = {
         step<readOperand>,
@@ -202,116 +152,40 @@ struct Sequences : CommonSequences<m6502> {
         step<readOperand>, step<latchLow, readOperand>, step<latchHigh, readLatch>, step<readNextInPage, latchLow>,
         step<jump, fetch>,
     };
+    static constexpr Program breakSequence = breakWith<nop>;
     static constexpr Program jammed = {
         step<readPc>,
         step<jam>,
     };
 };
 
-/// The instruction set: a line for each mnemonic, a column for each addressing mode.
-class InstructionSet : public ProgramTable<m6502> {
+/// What this chip has beside the common instructions.
+class InstructionSet : public InstructionTable<m6502, Sequences> {
 public:
-    template <auto Op>
-    constexpr void read(const Opcodes& at) {
-        set(at.imm, Sequences::immediate<Op>);
-        set(at.zp, Sequences::zeroPageRead<Op>);
-        set(at.zpX, Sequences::zeroPageIndexedRead<Op, X>);
-        set(at.zpY, Sequences::zeroPageIndexedRead<Op, Y>);
-        set(at.abs, Sequences::absoluteRead<Op>);
-        set(at.absX, Sequences::absoluteIndexedRead<Op, X>);
-        set(at.absY, Sequences::absoluteIndexedRead<Op, Y>);
-        set(at.indX, Sequences::indexedIndirectRead<Op>);
-        set(at.indY, Sequences::indirectIndexedRead<Op>);
-    }
-    template <auto Value>
-    constexpr void write(const Opcodes& at) {
-        set(at.zp, Sequences::zeroPageWrite<Value>);
-        set(at.zpX, Sequences::zeroPageIndexedWrite<Value, X>);
-        set(at.zpY, Sequences::zeroPageIndexedWrite<Value, Y>);
-        set(at.abs, Sequences::absoluteWrite<Value>);
-        set(at.absX, Sequences::absoluteIndexedWrite<Value, X>);
-        set(at.absY, Sequences::absoluteIndexedWrite<Value, Y>);
-        set(at.indX, Sequences::indexedIndirectWrite<Value>);
-        set(at.indY, Sequences::indirectIndexedWrite<Value>);
-    }
+    /// A change with whose result the accumulator goes on; undocumented, in all modes of the accumulator.
     template <auto Change>
-    constexpr void modify(const Opcodes& at) {
-        set(at.zp, Sequences::zeroPageModify<Change>);
-        set(at.zpX, Sequences::zeroPageIndexedModify<Change>);
-        set(at.abs, Sequences::absoluteModify<Change>);
+    constexpr void modifyAndUse(const Opcodes& at) {
+        modify<Change>(at);
         set(at.absX, Sequences::absoluteIndexedModify<Change, X>);
         set(at.absY, Sequences::absoluteIndexedModify<Change, Y>);
         set(at.indX, Sequences::indexedIndirectModify<Change>);
         set(at.indY, Sequences::indirectIndexedModify<Change>);
     }
-    template <auto Op>
-    constexpr void implied(int opcode) {
-        set(opcode, Sequences::implied<Op>);
-    }
 };
 
-constexpr InstructionSet documented(InstructionSet s) {
+constexpr InstructionSet instructions() {
+    InstructionSet s;
     // clang-format off
-    s.read<load<A>>    ({.imm = 0xA9, .zp = 0xA5, .zpX = 0xB5, .abs = 0xAD, .absX = 0xBD, .absY = 0xB9, .indX = 0xA1, .indY = 0xB1});
-    s.read<load<X>>    ({.imm = 0xA2, .zp = 0xA6, .zpY = 0xB6, .abs = 0xAE, .absY = 0xBE});
-    s.read<load<Y>>    ({.imm = 0xA0, .zp = 0xA4, .zpX = 0xB4, .abs = 0xAC, .absX = 0xBC});
-    s.write<valueOf<A>>({             .zp = 0x85, .zpX = 0x95, .abs = 0x8D, .absX = 0x9D, .absY = 0x99, .indX = 0x81, .indY = 0x91});
-    s.write<valueOf<X>>({             .zp = 0x86, .zpY = 0x96, .abs = 0x8E});
-    s.write<valueOf<Y>>({             .zp = 0x84, .zpX = 0x94, .abs = 0x8C});
+    s.read<adc>({.imm = 0x69, .zp = 0x65, .zpX = 0x75, .abs = 0x6D, .absX = 0x7D, .absY = 0x79, .indX = 0x61, .indY = 0x71});
+    s.read<sbc>({.imm = 0xE9, .zp = 0xE5, .zpX = 0xF5, .abs = 0xED, .absX = 0xFD, .absY = 0xF9, .indX = 0xE1, .indY = 0xF1});
 
-    s.read<ora>        ({.imm = 0x09, .zp = 0x05, .zpX = 0x15, .abs = 0x0D, .absX = 0x1D, .absY = 0x19, .indX = 0x01, .indY = 0x11});
-    s.read<andA>       ({.imm = 0x29, .zp = 0x25, .zpX = 0x35, .abs = 0x2D, .absX = 0x3D, .absY = 0x39, .indX = 0x21, .indY = 0x31});
-    s.read<eor>        ({.imm = 0x49, .zp = 0x45, .zpX = 0x55, .abs = 0x4D, .absX = 0x5D, .absY = 0x59, .indX = 0x41, .indY = 0x51});
-    s.read<adc>        ({.imm = 0x69, .zp = 0x65, .zpX = 0x75, .abs = 0x6D, .absX = 0x7D, .absY = 0x79, .indX = 0x61, .indY = 0x71});
-    s.read<sbc>        ({.imm = 0xE9, .zp = 0xE5, .zpX = 0xF5, .abs = 0xED, .absX = 0xFD, .absY = 0xF9, .indX = 0xE1, .indY = 0xF1});
-    s.read<compare<A>> ({.imm = 0xC9, .zp = 0xC5, .zpX = 0xD5, .abs = 0xCD, .absX = 0xDD, .absY = 0xD9, .indX = 0xC1, .indY = 0xD1});
-    s.read<compare<X>> ({.imm = 0xE0, .zp = 0xE4, .abs = 0xEC});
-    s.read<compare<Y>> ({.imm = 0xC0, .zp = 0xC4, .abs = 0xCC});
-    s.read<bit>        ({             .zp = 0x24, .abs = 0x2C});
-
-    s.modify<asl>      ({.zp = 0x06, .zpX = 0x16, .abs = 0x0E, .absX = 0x1E});
-    s.modify<rol>      ({.zp = 0x26, .zpX = 0x36, .abs = 0x2E, .absX = 0x3E});
-    s.modify<lsr>      ({.zp = 0x46, .zpX = 0x56, .abs = 0x4E, .absX = 0x5E});
-    s.modify<ror>      ({.zp = 0x66, .zpX = 0x76, .abs = 0x6E, .absX = 0x7E});
-    s.modify<dec>      ({.zp = 0xC6, .zpX = 0xD6, .abs = 0xCE, .absX = 0xDE});
-    s.modify<inc>      ({.zp = 0xE6, .zpX = 0xF6, .abs = 0xEE, .absX = 0xFE});
-
-    s.implied<changeRegister<asl, A>>(0x0A);  s.implied<changeRegister<rol, A>>(0x2A);
-    s.implied<changeRegister<lsr, A>>(0x4A);  s.implied<changeRegister<ror, A>>(0x6A);
-    s.implied<changeRegister<inc, X>>(0xE8);  s.implied<changeRegister<dec, X>>(0xCA);
-    s.implied<changeRegister<inc, Y>>(0xC8);  s.implied<changeRegister<dec, Y>>(0x88);
-
-    s.implied<transfer<A, X>>(0xAA);  s.implied<transfer<X, A>>(0x8A);  s.implied<transfer<S, X>>(0xBA);
-    s.implied<transfer<A, Y>>(0xA8);  s.implied<transfer<Y, A>>(0x98);  s.implied<txs>(0x9A);
-
-    s.implied<flagTo<CycleFlag::kC, false>>(0x18);  s.implied<flagTo<CycleFlag::kC, true>>(0x38);
-    s.implied<flagTo<CycleFlag::kI, false>>(0x58);  s.implied<flagTo<CycleFlag::kI, true>>(0x78);
-    s.implied<flagTo<CycleFlag::kD, false>>(0xD8);  s.implied<flagTo<CycleFlag::kD, true>>(0xF8);
-    s.implied<flagTo<CycleFlag::kV, false>>(0xB8);  s.implied<nop>(0xEA);
-
-    s.set(0x48, Sequences::push<valueOf<A>>);  s.set(0x68, Sequences::pull<load<A>>);
-    s.set(0x08, Sequences::push<status>);      s.set(0x28, Sequences::pull<pullStatus>);
-
-    s.set(0x10, Sequences::branch<CycleFlag::kN, false>);  s.set(0x30, Sequences::branch<CycleFlag::kN, true>);
-    s.set(0x50, Sequences::branch<CycleFlag::kV, false>);  s.set(0x70, Sequences::branch<CycleFlag::kV, true>);
-    s.set(0x90, Sequences::branch<CycleFlag::kC, false>);  s.set(0xB0, Sequences::branch<CycleFlag::kC, true>);
-    s.set(0xD0, Sequences::branch<CycleFlag::kZ, false>);  s.set(0xF0, Sequences::branch<CycleFlag::kZ, true>);
-
-    s.set(0x4C, Sequences::jumpAbsolute);      s.set(0x6C, Sequences::jumpIndirect);
-    s.set(0x20, Sequences::jumpToSubroutine);  s.set(0x60, Sequences::returnFromSubroutine);
-    s.set(0x00, Sequences::breakSequence<nop>);  s.set(0x40, Sequences::returnFromInterrupt);
-    // clang-format on
-    return s;
-}
-
-constexpr InstructionSet undocumented(InstructionSet s) {
-    // clang-format off
-    s.modify<slo>({.zp = 0x07, .zpX = 0x17, .abs = 0x0F, .absX = 0x1F, .absY = 0x1B, .indX = 0x03, .indY = 0x13});
-    s.modify<rla>({.zp = 0x27, .zpX = 0x37, .abs = 0x2F, .absX = 0x3F, .absY = 0x3B, .indX = 0x23, .indY = 0x33});
-    s.modify<sre>({.zp = 0x47, .zpX = 0x57, .abs = 0x4F, .absX = 0x5F, .absY = 0x5B, .indX = 0x43, .indY = 0x53});
-    s.modify<rra>({.zp = 0x67, .zpX = 0x77, .abs = 0x6F, .absX = 0x7F, .absY = 0x7B, .indX = 0x63, .indY = 0x73});
-    s.modify<dcp>({.zp = 0xC7, .zpX = 0xD7, .abs = 0xCF, .absX = 0xDF, .absY = 0xDB, .indX = 0xC3, .indY = 0xD3});
-    s.modify<isb>({.zp = 0xE7, .zpX = 0xF7, .abs = 0xEF, .absX = 0xFF, .absY = 0xFB, .indX = 0xE3, .indY = 0xF3});
+    // What follows is undocumented
+    s.modifyAndUse<slo>({.zp = 0x07, .zpX = 0x17, .abs = 0x0F, .absX = 0x1F, .absY = 0x1B, .indX = 0x03, .indY = 0x13});
+    s.modifyAndUse<rla>({.zp = 0x27, .zpX = 0x37, .abs = 0x2F, .absX = 0x3F, .absY = 0x3B, .indX = 0x23, .indY = 0x33});
+    s.modifyAndUse<sre>({.zp = 0x47, .zpX = 0x57, .abs = 0x4F, .absX = 0x5F, .absY = 0x5B, .indX = 0x43, .indY = 0x53});
+    s.modifyAndUse<rra>({.zp = 0x67, .zpX = 0x77, .abs = 0x6F, .absX = 0x7F, .absY = 0x7B, .indX = 0x63, .indY = 0x73});
+    s.modifyAndUse<dcp>({.zp = 0xC7, .zpX = 0xD7, .abs = 0xCF, .absX = 0xDF, .absY = 0xDB, .indX = 0xC3, .indY = 0xD3});
+    s.modifyAndUse<isb>({.zp = 0xE7, .zpX = 0xF7, .abs = 0xEF, .absX = 0xFF, .absY = 0xFB, .indX = 0xE3, .indY = 0xF3});
 
     s.read<load<A, X>>({.zp = 0xA7, .zpY = 0xB7, .abs = 0xAF, .absY = 0xBF, .indX = 0xA3, .indY = 0xB3});
     s.write<sax>      ({.zp = 0x87, .zpY = 0x97, .abs = 0x8F,               .indX = 0x83});
@@ -340,7 +214,7 @@ constexpr InstructionSet undocumented(InstructionSet s) {
     return s;
 }
 
-constexpr InstructionSet kInstructions = undocumented(documented(InstructionSet()));
+constexpr InstructionSet kInstructions = instructions();
 static_assert(kInstructions.isComplete());
 
 /// One dispatch a tick.

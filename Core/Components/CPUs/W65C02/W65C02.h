@@ -13,22 +13,8 @@ namespace tarnsim {
 /// float while it is low, `t_bvd` ns after the flank. `SYNC` and `_VP` go on.
 class W65C02 final : public Processor<W65C02, w65c02, w65c02Descriptor> {
 public:
-    static constexpr PartInfo info = {
-        "W65C02", "(t_ads=30,t_ah=10,t_mds=25,t_dhw=10,t_bvd=25)",
-        "<b>t_ads</b> The Address Setup Time, in ns. Time from negative clock flank until address, R/W, SYNC and _VP "
-        "has "
-        "stabilized. Default 30 ns.<p><b>t_ah</b> The Address Hold Time, in ns. The time the address, R/W, SYNC and "
-        "_VP "
-        "are stable after negative clock flank. Default 10 ns.<p><b>t_mds</b> The Write Delay Time, in ns. The time "
-        "after "
-        "positive clock flank that the (write) data becomes valid. Default 25 ns.<p><b>t_dhw</b> The Write Hold Time, "
-        "in "
-        "ns. The time after negative clock flank that the (write) data still is valid. Default 10 ns.<p><b>t_bvd</b> "
-        "The "
-        "BE to Valida Data time, in ns. The time from positive BE flank until address, R/W and data lines are valid. "
-        "Default is 25 ns. The data sheet provides no value for the negative flank until invalid data, but states that "
-        "it "
-        "probably is the same, and that is the value used in this model."};
+    static constexpr PartInfo info = {"W65C02", "(t_ads=30,t_ah=10,t_mds=25,t_dhw=10,t_bvd=25)",
+                                      kBusTimesDocumentation};
     static constexpr const char* kReadWrite = "R/W";
 
     W65C02(const std::string& name, const ParaMap& parameters);

@@ -1,6 +1,6 @@
 #include "Core/Components/CPUs/W65C02/w65c02.h"
 
-#include "Core/Components/CPUs/CycleSequences.h"
+#include "Core/Components/CPUs/CycleInstructions.h"
 
 namespace tarnsim {
 
@@ -8,11 +8,6 @@ namespace {
 
 using namespace CycleAction;
 using namespace CycleOperation;
-
-constexpr Register A = &CycleCore::a;
-constexpr Register X = &CycleCore::x;
-constexpr Register Y = &CycleCore::y;
-constexpr Register S = &CycleCore::s;
 
 // Operations that the NMOS chip lacks
 
@@ -59,63 +54,36 @@ void stop(w65c02& c) {
 void readLastOperand(CycleCore& c) {
     setAddress(c, c.pc - 1U);
 }
-/// The same while an index is carried over a page; not needed without a carry, when the indexed address comes at once.
-template <Register index>
-void readWhileCarrying(CycleCore& c) {
-    if (crossesPage<index>(c)) {
-        readLastOperand(c);
-    } else {
-        readIndexed<index>(c);
-        ++c.ir;
-    }
-}
 
-/// The sequences in which the CMOS chip is on its own: while it needs a cycle for itself it reads something harmless
-/// again, and before it writes a changed byte it reads the old one twice.
-struct Sequences : CommonSequences<w65c02> {
+/// While the CMOS chip needs a cycle for itself it reads something harmless again; before it writes a changed byte it
+/// reads the old one twice.
+struct OwnCycles {
+    /// Without a carry the indexed address comes at once.
+    template <Register index>
+    static void carryRead(CycleCore& c) {
+        if (crossesPage<index>(c)) {
+            readLastOperand(c);
+        } else {
+            readIndexed<index>(c);
+            ++c.ir;
+        }
+    }
+    template <Register index>
+    static constexpr auto carry = readLastOperand;
+    static constexpr auto beforeChange = nop;
+};
+
+/// The sequences in which the CMOS chip is on its own.
+struct Sequences : CommonSequences<w65c02, OwnCycles> {
     template <auto Op>
     static constexpr Program oneCycle = {
         step<Op, fetch>,
     };
 
-    template <auto Op, auto index>
-    static constexpr Program absoluteIndexedRead = {
-        step<readOperand>,
-        step<latchLow, readOperand>,
-        step<latchHigh, readWhileCarrying<index>>,
-        step<readIndexed<index>>,
-        step<Op, fetch>,
-    };
-    template <auto Op>
-    static constexpr Program indirectIndexedRead = {
-        step<readOperand>,
-        step<latchLow, readLatch>,
-        step<readNextZeroPage, latchLow>,
-        step<latchHigh, readWhileCarrying<Y>>,
-        step<readIndexed<Y>>,
-        step<Op, fetch>,
-    };
     template <auto Op>
     static constexpr Program indirectRead = {
         step<readOperand>,          step<latchLow, readLatch>, step<readNextZeroPage, latchLow>,
         step<latchHigh, readLatch>, step<Op, fetch>,
-    };
-    template <auto Value, auto index>
-    static constexpr Program absoluteIndexedWrite = {
-        step<readOperand>,
-        step<latchLow, readOperand>,
-        step<latchHigh, readLastOperand>,
-        step<readIndexed<index>, write<Value>>,
-        step<fetch>,
-    };
-    template <auto Value>
-    static constexpr Program indirectIndexedWrite = {
-        step<readOperand>,
-        step<latchLow, readLatch>,
-        step<readNextZeroPage, latchLow>,
-        step<latchHigh, readLastOperand>,
-        step<readIndexed<Y>, write<Value>>,
-        step<fetch>,
     };
     template <auto Value>
     static constexpr Program indirectWrite = {
@@ -126,39 +94,14 @@ struct Sequences : CommonSequences<w65c02> {
         step<fetch>,
     };
 
-    template <auto Change>
-    static constexpr Program zeroPageModify = {
-        step<readOperand>, step<readZeroPage>, step<latchByte>, step<writeChanged<Change>>, step<fetch>,
-    };
-    template <auto Change>
-    static constexpr Program zeroPageIndexedModify = {
-        step<readOperand>, step<latchLow, readLatch>,  step<indexZeroPage<X>, readLatch>,
-        step<latchByte>,   step<writeChanged<Change>>, step<fetch>,
-    };
-    template <auto Change>
-    static constexpr Program absoluteModify = {
-        step<readOperand>, step<latchLow, readOperand>, step<latchHigh, readLatch>,
-        step<latchByte>,   step<writeChanged<Change>>,  step<fetch>,
-    };
-    /// Counting takes the cycle of the carry always.
-    template <auto Change>
-    static constexpr Program absoluteIndexedCount = {
-        step<readOperand>,
-        step<latchLow, readOperand>,
-        step<latchHigh, readLastOperand>,
-        step<readIndexed<X>>,
-        step<latchByte>,
-        step<writeChanged<Change>>,
-        step<fetch>,
-    };
-    /// Shifting only when there is a carry.
+    /// A shift takes the cycle of the carry only when there is one; other changes take it always.
     template <auto Change>
     static constexpr Program absoluteIndexedShift = {
         step<readOperand>,
         step<latchLow, readOperand>,
-        step<latchHigh, readWhileCarrying<X>>,
+        step<latchHigh, OwnCycles::carryRead<X>>,
         step<readIndexed<X>>,
-        step<latchByte>,
+        step<latchByte, OwnCycles::beforeChange>,
         step<writeChanged<Change>>,
         step<fetch>,
     };
@@ -175,6 +118,7 @@ struct Sequences : CommonSequences<w65c02> {
         step<readOperand>,           step<latchLow, readOperand>, step<latchHigh, readFirstOperand>,
         step<indexLatch, readLatch>, step<readNext, latchLow>,    step<jump, fetch>,
     };
+    static constexpr Program breakSequence = breakWith<clearDecimal>;
 
     /// Reads the target's low byte in the page of the next instruction, taken or not.
     template <int number, bool isSet>
@@ -235,22 +179,10 @@ constexpr Program<w65c02> immediateArithmetic() {
     return program;
 }
 
-/// The instruction set: a line for each mnemonic, a column for each addressing mode.
-class InstructionSet : public ProgramTable<w65c02> {
+/// What this chip has beside the common instructions.
+class InstructionSet : public InstructionTable<w65c02, Sequences> {
 public:
-    template <auto Op>
-    constexpr void read(const Opcodes& at) {
-        set(at.imm, Sequences::immediate<Op>);
-        set(at.zp, Sequences::zeroPageRead<Op>);
-        set(at.zpX, Sequences::zeroPageIndexedRead<Op, X>);
-        set(at.zpY, Sequences::zeroPageIndexedRead<Op, Y>);
-        set(at.abs, Sequences::absoluteRead<Op>);
-        set(at.absX, Sequences::absoluteIndexedRead<Op, X>);
-        set(at.absY, Sequences::absoluteIndexedRead<Op, Y>);
-        set(at.indX, Sequences::indexedIndirectRead<Op>);
-        set(at.indY, Sequences::indirectIndexedRead<Op>);
-        set(at.zpInd, Sequences::indirectRead<Op>);
-    }
+    /// Additions and subtractions.
     template <auto Op, unsigned oddPlace>
     constexpr void add(const Opcodes& at) {
         set(at.imm, immediateArithmetic<Op, oddPlace>());
@@ -261,39 +193,6 @@ public:
         set(at.absY, arithmetic<Op>(Sequences::absoluteIndexedRead<Op, Y>));
         set(at.indX, arithmetic<Op>(Sequences::indexedIndirectRead<Op>));
         set(at.indY, arithmetic<Op>(Sequences::indirectIndexedRead<Op>));
-        set(at.zpInd, arithmetic<Op>(Sequences::indirectRead<Op>));
-    }
-    template <auto Value>
-    constexpr void write(const Opcodes& at) {
-        set(at.zp, Sequences::zeroPageWrite<Value>);
-        set(at.zpX, Sequences::zeroPageIndexedWrite<Value, X>);
-        set(at.zpY, Sequences::zeroPageIndexedWrite<Value, Y>);
-        set(at.abs, Sequences::absoluteWrite<Value>);
-        set(at.absX, Sequences::absoluteIndexedWrite<Value, X>);
-        set(at.absY, Sequences::absoluteIndexedWrite<Value, Y>);
-        set(at.indX, Sequences::indexedIndirectWrite<Value>);
-        set(at.indY, Sequences::indirectIndexedWrite<Value>);
-        set(at.zpInd, Sequences::indirectWrite<Value>);
-    }
-    template <auto Change>
-    constexpr void modify(const Opcodes& at) {
-        set(at.zp, Sequences::zeroPageModify<Change>);
-        set(at.zpX, Sequences::zeroPageIndexedModify<Change>);
-        set(at.abs, Sequences::absoluteModify<Change>);
-    }
-    template <auto Change>
-    constexpr void shift(const Opcodes& at) {
-        modify<Change>(at);
-        set(at.absX, Sequences::absoluteIndexedShift<Change>);
-    }
-    template <auto Change>
-    constexpr void count(const Opcodes& at) {
-        modify<Change>(at);
-        set(at.absX, Sequences::absoluteIndexedCount<Change>);
-    }
-    template <auto Op>
-    constexpr void implied(int opcode) {
-        set(opcode, Sequences::implied<Op>);
     }
     /// RMB, SMB, BBR and BBS for one bit; the opcodes of the higher bits lie 0x10 apart.
     template <int number>
@@ -309,66 +208,33 @@ public:
 constexpr InstructionSet instructions() {
     InstructionSet s;
     // clang-format off
-    s.read<load<A>>    ({.imm = 0xA9, .zp = 0xA5, .zpX = 0xB5, .abs = 0xAD, .absX = 0xBD, .absY = 0xB9, .indX = 0xA1, .indY = 0xB1, .zpInd = 0xB2});
-    s.read<load<X>>    ({.imm = 0xA2, .zp = 0xA6, .zpY = 0xB6, .abs = 0xAE, .absY = 0xBE});
-    s.read<load<Y>>    ({.imm = 0xA0, .zp = 0xA4, .zpX = 0xB4, .abs = 0xAC, .absX = 0xBC});
-    s.write<valueOf<A>>({             .zp = 0x85, .zpX = 0x95, .abs = 0x8D, .absX = 0x9D, .absY = 0x99, .indX = 0x81, .indY = 0x91, .zpInd = 0x92});
-    s.write<valueOf<X>>({             .zp = 0x86, .zpY = 0x96, .abs = 0x8E});
-    s.write<valueOf<Y>>({             .zp = 0x84, .zpX = 0x94, .abs = 0x8C});
-    s.write<zero>      ({             .zp = 0x64, .zpX = 0x74, .abs = 0x9C, .absX = 0x9E});
+    s.add<adc, 0x7F>({.imm = 0x69, .zp = 0x65, .zpX = 0x75, .abs = 0x6D, .absX = 0x7D, .absY = 0x79, .indX = 0x61, .indY = 0x71});
+    s.add<sbc, 0xB8>({.imm = 0xE9, .zp = 0xE5, .zpX = 0xF5, .abs = 0xED, .absX = 0xFD, .absY = 0xF9, .indX = 0xE1, .indY = 0xF1});
 
-    s.read<ora>        ({.imm = 0x09, .zp = 0x05, .zpX = 0x15, .abs = 0x0D, .absX = 0x1D, .absY = 0x19, .indX = 0x01, .indY = 0x11, .zpInd = 0x12});
-    s.read<andA>       ({.imm = 0x29, .zp = 0x25, .zpX = 0x35, .abs = 0x2D, .absX = 0x3D, .absY = 0x39, .indX = 0x21, .indY = 0x31, .zpInd = 0x32});
-    s.read<eor>        ({.imm = 0x49, .zp = 0x45, .zpX = 0x55, .abs = 0x4D, .absX = 0x5D, .absY = 0x59, .indX = 0x41, .indY = 0x51, .zpInd = 0x52});
-    s.add<adc, 0x7F>   ({.imm = 0x69, .zp = 0x65, .zpX = 0x75, .abs = 0x6D, .absX = 0x7D, .absY = 0x79, .indX = 0x61, .indY = 0x71, .zpInd = 0x72});
-    s.add<sbc, 0xB8>   ({.imm = 0xE9, .zp = 0xE5, .zpX = 0xF5, .abs = 0xED, .absX = 0xFD, .absY = 0xF9, .indX = 0xE1, .indY = 0xF1, .zpInd = 0xF2});
-    s.read<compare<A>> ({.imm = 0xC9, .zp = 0xC5, .zpX = 0xD5, .abs = 0xCD, .absX = 0xDD, .absY = 0xD9, .indX = 0xC1, .indY = 0xD1, .zpInd = 0xD2});
-    s.read<compare<X>> ({.imm = 0xE0, .zp = 0xE4, .abs = 0xEC});
-    s.read<compare<Y>> ({.imm = 0xC0, .zp = 0xC4, .abs = 0xCC});
-    s.read<bit>        ({             .zp = 0x24, .zpX = 0x34, .abs = 0x2C, .absX = 0x3C});
+    // By (zp)
+    s.set(0x12, Sequences::indirectRead<ora>);      s.set(0x32, Sequences::indirectRead<andA>);
+    s.set(0x52, Sequences::indirectRead<eor>);      s.set(0xD2, Sequences::indirectRead<compare<A>>);
+    s.set(0xB2, Sequences::indirectRead<load<A>>);  s.set(0x92, Sequences::indirectWrite<valueOf<A>>);
+    s.set(0x72, arithmetic<adc>(Sequences::indirectRead<adc>));
+    s.set(0xF2, arithmetic<sbc>(Sequences::indirectRead<sbc>));
+
+    s.write<zero>({.zp = 0x64, .zpX = 0x74, .abs = 0x9C, .absX = 0x9E});
+    s.read<bit>({.zpX = 0x34, .absX = 0x3C});
     s.read<bitImmediate>({.imm = 0x89});
-
-    s.shift<asl>       ({.zp = 0x06, .zpX = 0x16, .abs = 0x0E, .absX = 0x1E});
-    s.shift<rol>       ({.zp = 0x26, .zpX = 0x36, .abs = 0x2E, .absX = 0x3E});
-    s.shift<lsr>       ({.zp = 0x46, .zpX = 0x56, .abs = 0x4E, .absX = 0x5E});
-    s.shift<ror>       ({.zp = 0x66, .zpX = 0x76, .abs = 0x6E, .absX = 0x7E});
-    s.count<dec>       ({.zp = 0xC6, .zpX = 0xD6, .abs = 0xCE, .absX = 0xDE});
-    s.count<inc>       ({.zp = 0xE6, .zpX = 0xF6, .abs = 0xEE, .absX = 0xFE});
-    s.modify<tsb>      ({.zp = 0x04, .abs = 0x0C});
-    s.modify<trb>      ({.zp = 0x14, .abs = 0x1C});
+    s.modify<tsb>({.zp = 0x04, .abs = 0x0C});
+    s.modify<trb>({.zp = 0x14, .abs = 0x1C});
 
     s.bitInstructions<0>();  s.bitInstructions<1>();  s.bitInstructions<2>();  s.bitInstructions<3>();
     s.bitInstructions<4>();  s.bitInstructions<5>();  s.bitInstructions<6>();  s.bitInstructions<7>();
 
-    s.implied<changeRegister<asl, A>>(0x0A);  s.implied<changeRegister<rol, A>>(0x2A);
-    s.implied<changeRegister<lsr, A>>(0x4A);  s.implied<changeRegister<ror, A>>(0x6A);
     s.implied<changeRegister<inc, A>>(0x1A);  s.implied<changeRegister<dec, A>>(0x3A);
-    s.implied<changeRegister<inc, X>>(0xE8);  s.implied<changeRegister<dec, X>>(0xCA);
-    s.implied<changeRegister<inc, Y>>(0xC8);  s.implied<changeRegister<dec, Y>>(0x88);
+    s.push<valueOf<X>>(0xDA);  s.pull<load<X>>(0xFA);
+    s.push<valueOf<Y>>(0x5A);  s.pull<load<Y>>(0x7A);
 
-    s.implied<transfer<A, X>>(0xAA);  s.implied<transfer<X, A>>(0x8A);  s.implied<transfer<S, X>>(0xBA);
-    s.implied<transfer<A, Y>>(0xA8);  s.implied<transfer<Y, A>>(0x98);  s.implied<txs>(0x9A);
-
-    s.implied<flagTo<CycleFlag::kC, false>>(0x18);  s.implied<flagTo<CycleFlag::kC, true>>(0x38);
-    s.implied<flagTo<CycleFlag::kI, false>>(0x58);  s.implied<flagTo<CycleFlag::kI, true>>(0x78);
-    s.implied<flagTo<CycleFlag::kD, false>>(0xD8);  s.implied<flagTo<CycleFlag::kD, true>>(0xF8);
-    s.implied<flagTo<CycleFlag::kV, false>>(0xB8);  s.implied<nop>(0xEA);
-
-    s.set(0x48, Sequences::push<valueOf<A>>);  s.set(0x68, Sequences::pull<load<A>>);
-    s.set(0xDA, Sequences::push<valueOf<X>>);  s.set(0xFA, Sequences::pull<load<X>>);
-    s.set(0x5A, Sequences::push<valueOf<Y>>);  s.set(0x7A, Sequences::pull<load<Y>>);
-    s.set(0x08, Sequences::push<status>);      s.set(0x28, Sequences::pull<pullStatus>);
-
-    s.set(0x10, Sequences::branch<CycleFlag::kN, false>);  s.set(0x30, Sequences::branch<CycleFlag::kN, true>);
-    s.set(0x50, Sequences::branch<CycleFlag::kV, false>);  s.set(0x70, Sequences::branch<CycleFlag::kV, true>);
-    s.set(0x90, Sequences::branch<CycleFlag::kC, false>);  s.set(0xB0, Sequences::branch<CycleFlag::kC, true>);
-    s.set(0xD0, Sequences::branch<CycleFlag::kZ, false>);  s.set(0xF0, Sequences::branch<CycleFlag::kZ, true>);
-    s.set(0x80, Sequences::branch<kAlways, true>);
-
-    s.set(0x4C, Sequences::jumpAbsolute);      s.set(0x6C, Sequences::jumpIndirect);  s.set(0x7C, Sequences::jumpIndexedIndirect);
-    s.set(0x20, Sequences::jumpToSubroutine);  s.set(0x60, Sequences::returnFromSubroutine);
-    s.set(0x00, Sequences::breakSequence<clearDecimal>);  s.set(0x40, Sequences::returnFromInterrupt);
-    s.set(0xCB, Sequences::waitForInterrupt);  s.set(0xDB, Sequences::stopped);
+    s.branch<kAlways, true>(0x80);
+    s.set(0x7C, Sequences::jumpIndexedIndirect);
+    s.set(0xCB, Sequences::waitForInterrupt);
+    s.set(0xDB, Sequences::stopped);
 
     // Opcodes without an instruction
     for (int opcode = 0x03; opcode < 0x100; opcode += 0x10) s.set(opcode, Sequences::oneCycle<nop>);
