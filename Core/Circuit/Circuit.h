@@ -196,6 +196,8 @@ public:
     /// Names from below the root down to this circuit.
     std::vector<std::string> getPathFromRoot() const;
     std::string getPortPath(const Port* port) const;
+    /// What getPortPath gives for each port on a net of this circuit, found in one walk.
+    std::unordered_map<const Port*, std::string> pathsOfNetPorts() const;
     std::string getPortPathById(const std::string& id) const;
     std::string getComponentPathById(const std::string& id) const;
     std::string getNetPath(const Net* net) const;
@@ -250,7 +252,6 @@ private:
 
     void copyChildren(const Circuit& other);
     void copyNets(const Circuit& other);
-    std::unordered_map<const Port*, std::string> pathsOfNetPorts() const;
 
     /// Where the names of a path lead to; null if one of them isn't there.
     const Component* walk(const std::vector<std::string>& units) const;

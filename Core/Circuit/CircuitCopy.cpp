@@ -92,8 +92,7 @@ void collectPortPaths(const Component& component, const std::string& prefix, int
 
 }  // namespace
 
-/// What getPortPath gives for each port on a net of this circuit, by one walk over the ports instead of one for each of
-/// them. Nets that reach into units of units are rare; only for them the walk goes further down.
+/// Nets that reach into units of units are rare; only for them the walk goes further down than to the units' ports.
 std::unordered_map<const Port*, std::string> Circuit::pathsOfNetPorts() const {
     PortPaths paths;
     collectPortPaths(*this, "", 1, paths);
