@@ -62,7 +62,7 @@ std::string filePathOf(const Circuit& declaration) {
     if (parent == nullptr) return path;
     const std::string parentFile = parent->getFilePath();
     const std::size_t slash = parentFile.rfind('/');
-    if (slash == std::string::npos) return path;
+    if (slash == std::string::npos || slash == 0) return path;
     const std::string directory = parentFile.substr(0, slash + 1);
     const std::size_t place = path.find(directory);
     if (place != std::string::npos) path.erase(place, directory.size());

@@ -7,8 +7,10 @@
 
 #include "Core/Circuit/Circuit.h"
 #include "Core/Circuit/CircuitFileReader.h"
+#include "Core/Circuit/CircuitFileWriter.h"
 #include "Core/Circuit/CircuitSpec.h"
 #include "Core/Support/Text.h"
+#include "Core/Support/TextFile.h"
 #include "Tests/Support/TestSupport.h"
 
 namespace tarnsim {
@@ -38,6 +40,18 @@ inline std::unique_ptr<Circuit> circuitFrom(const std::string& text) {
     const Workplace here;
     here.write("board.nlx", text);
     return CircuitFileReader().load("board.nlx");
+}
+
+/// The file that the circuit is saved to, without header.
+inline std::string savedText(const Circuit& circuit) {
+    const TemporaryFolder folder;
+    CircuitFileWriter(&circuit).save(folder.path("saved.nlx"), false);
+    return readBytes(folder.path("saved.nlx")).value();
+}
+
+/// A file `board.nlx` with this text, loaded and saved.
+inline std::string savedFrom(const std::string& text) {
+    return savedText(*circuitFrom(text));
 }
 
 /// The Error that reading a file `board.nlx` with this text ends in, without building a circuit.
