@@ -54,6 +54,17 @@ inline std::string savedFrom(const std::string& text) {
     return savedText(*circuitFrom(text));
 }
 
+/// Saves the circuit, expects this file, and loads it again. The file must say all that it says itself: saved once more
+/// it is the same.
+inline std::unique_ptr<Circuit> savedAndLoaded(const Circuit& board, const std::string& file) {
+    const Workplace here;
+    CircuitFileWriter(&board).save("saved.nlx", false);
+    EXPECT_EQ(readBytes("saved.nlx").value(), file);
+    auto again = CircuitFileReader().load("saved.nlx");
+    EXPECT_EQ(savedText(*again), file);
+    return again;
+}
+
 /// The Error that reading a file `board.nlx` with this text ends in, without building a circuit.
 inline std::string errorOfReading(const std::string& text) {
     return errorOf([&] { specFrom(text); });

@@ -6,17 +6,6 @@
 namespace tarnsim {
 namespace {
 
-/// Saves the circuit, expects this file, and loads it again. The file must say all that it says itself: saved once more
-/// it is the same.
-std::unique_ptr<Circuit> savedAndLoaded(const Circuit& board, const std::string& file) {
-    const Workplace here;
-    CircuitFileWriter(&board).save("saved.nlx", false);
-    EXPECT_EQ(readBytes("saved.nlx").value(), file);
-    auto again = CircuitFileReader().load("saved.nlx");
-    EXPECT_EQ(savedText(*again), file);
-    return again;
-}
-
 /// What the pin `q` shows when the pins `p` are all high from 0 on.
 char levelOfQ(Circuit& board) {
     EventSimulator simulator(&board);
@@ -526,101 +515,6 @@ TEST(Saving, NetsThatBecomeOneAreWrittenAsOne) {
               "\n"
               "Net n x.g.out x.h.in q\n"
               "\n");
-}
-
-// What a saved file has lost.
-
-TEST(SavingLoses, ParametersOfArrayUnits) {
-    const auto again = savedAndLoaded(*circuitFrom("Unit And g[0](delay=9)\n"), "Unit And g[1]\n\n");
-    EXPECT_EQ(dynamic_cast<SingleDelayComponent&>(*again->findComponent("g[0]")).getDelay(), 3U);
-}
-
-TEST(SavingLoses, CommentsOfArrayUnits) {
-    const auto again = savedAndLoaded(*circuitFrom("# about g\nUnit And g[2]\n"), "Unit And g[2]\n\n");
-    EXPECT_TRUE(again->findComponent("g[0]")->hasNoComment());
-}
-
-TEST(SavingLoses, GapsInArrays) {
-    const auto board = circuitFrom("Unit And g[3]\n");
-    board->removeComponent(board->findComponent("g[0]"));
-    EXPECT_EQ(board->countComponents(), 2U);
-    EXPECT_EQ(savedAndLoaded(*board, "Unit And g[3]\n\n")->countComponents(), 3U);
-}
-
-TEST(SavingLoses, DifferentTypesInOneArray) {
-    const auto again = savedAndLoaded(*circuitFrom("Unit And g[0]()\nUnit Or g[1]()\n"), "Unit Or g[2]\n\n");
-    EXPECT_EQ(again->findComponent("g[0]")->getType(), "Or");
-}
-
-TEST(SavingLoses, UnusedDeclarations) {
-    const auto again =
-        savedAndLoaded(*circuitFrom("Circuit H {\n# about H\n\nUnit And g\n}\nUnit And g\n"), "Unit And g\n\n");
-    EXPECT_TRUE(again->getDeclarations().empty());
-}
-
-TEST(SavingLoses, MetaDataThatNeedsEscapes) {
-    const auto saved = [](const std::string& text) {
-        const Workplace here;
-        here.write("board.nlx", text);
-        CircuitFileWriter(CircuitFileReader().load("board.nlx").get()).save("board.nlx", false);
-        return CircuitFileReader().load("board.nlx")->getMetaDataFirst("k");
-    };
-    EXPECT_EQ(saved("MetaData k 'a\"b'\n"), "a\\") << "the reader takes the first quote for the last";
-    EXPECT_EQ(saved("MetaData k \"a\\b\"\n"), "a\\\\b");
-    EXPECT_EQ(saved("MetaData k \"a\tb\"\n"), "a\\tb");
-    EXPECT_EQ(saved("MetaData k \"\xC3\xA9\"\n"), "\\xC3\\xA9");
-    EXPECT_EQ(saved("MetaData k \"it's\"\n"), "it's") << "this one needs none";
-}
-
-TEST(SavingLoses, PortOptions) {
-    const auto board = circuitFrom("Pin Output a(ztr=off) b\nPort Output 4 c(ztr=off)\n");
-    EXPECT_FALSE(board->findPort("a")->getZtr());
-    const auto again = savedAndLoaded(*board, "Pin Output a b\n\nPort Output 4 c\n\n");
-    EXPECT_TRUE(again->findPort("a")->getZtr());
-    EXPECT_TRUE(again->findPort("c")->getZtr());
-}
-
-TEST(SavingLoses, Imports) {
-    const Workplace here;
-    here.write("gates.nlx", "Pin Input p\nUnit Inv g\nNet n p g.in\n");
-    here.write("board.nlx", "Pin Input q\nImport \"gates.nlx\"\nUnit Inv h\nNet m q h.in\n");
-    const auto board = CircuitFileReader().load("board.nlx");
-    savedAndLoaded(*board,
-                   "Pin Input q p\n"
-                   "\n"
-                   "Unit Inv g h\n"
-                   "\n"
-                   "Net n p g.in\n"
-                   "Net m q h.in\n"
-                   "\n");
-}
-
-TEST(SavingLoses, WhatWasChangedInAUnitAndNotInItsDeclaration) {
-    const auto board = circuitFrom(kHierarchy);
-    auto& unit = dynamic_cast<Circuit&>(*board->findComponent("a"));
-    unit.addComponent("And", "added");
-    unit.addComment("of a alone");
-    savedAndLoaded(*board, kHierarchy);
-}
-
-TEST(SavingLoses, ContentsOfCircuitsWithAFileOfTheirOwn) {
-    const Workplace here;
-    here.write("half.nlx", "Pin Input i\n");
-    here.write("board.nlx", "Circuit Half \"half.nlx\"\nUnit Half h\n");
-    const auto board = CircuitFileReader().load("board.nlx");
-    board->getDeclarations()[0]->createPin(Direction::Input, "added");
-    CircuitFileWriter(board.get()).save("board.nlx", false);
-    EXPECT_EQ(CircuitFileReader().load("board.nlx")->findPort("h.added"), nullptr);
-}
-
-TEST(SavingLoses, PortsWithoutAWidth) {
-    const auto again = savedAndLoaded(*circuitFrom("Port Input 0 a\nPin Input b\n"), "Pin Input b\n\n");
-    EXPECT_EQ(again->findPort("a"), nullptr);
-}
-
-TEST(SavingLoses, TheOrderOfImportPaths) {
-    savedAndLoaded(*circuitFrom("ImportPath \"second\"\nImportPath \"first\"\n"),
-                   "ImportPath \"first\"\nImportPath \"second\"\n\n");
 }
 
 }  // namespace
