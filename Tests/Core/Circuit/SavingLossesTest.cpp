@@ -27,6 +27,15 @@ TEST(SavingLoses, DifferentTypesInOneArray) {
     EXPECT_EQ(again->findComponent("g[0]")->getType(), "Or");
 }
 
+TEST(SavingLoses, NumbersOfArraysWhoseNameIsNoArrayToTheReader) {
+    // Such a unit is one unit with brackets in its name, and becomes another one with each file.
+    EXPECT_EQ(savedFrom("Unit And [3]\n"), "Unit And [4]\n\n");
+    EXPECT_EQ(savedFrom("Unit And [4]\n"), "Unit And [5]\n\n");
+    EXPECT_EQ(savedFrom("Circuit H {\n}\nUnit H a-b[3]\n"), "Circuit H {\n}\n\nUnit H a-b[4]\n\n");
+    EXPECT_EQ(savedFrom("Circuit H {\n}\nUnit H h(x=1)[3]\n"), "Circuit H {\n}\n\nUnit H h(x=1)[4]\n\n");
+    EXPECT_EQ(circuitFrom(savedFrom("Unit And g[2]h\n"))->countComponents(), 3U) << "written as g[3]";
+}
+
 TEST(SavingLoses, UnusedDeclarations) {
     const auto again =
         savedAndLoaded(*circuitFrom("Circuit H {\n# about H\n\nUnit And g\n}\nUnit And g\n"), "Unit And g\n\n");
@@ -100,6 +109,43 @@ TEST(SavingLoses, ContentsOfCircuitsWithAFileOfTheirOwn) {
 TEST(SavingLoses, PortsWithoutAWidth) {
     const auto again = savedAndLoaded(*circuitFrom("Port Input 0 a\nPin Input b\n"), "Pin Input b\n\n");
     EXPECT_EQ(again->findPort("a"), nullptr);
+}
+
+TEST(SavingLoses, NetsOverANetInsideAUnitAndItsPort) {
+    // The net inside and the one outside are one net, with the unit's port on both sides of it after a while.
+    const std::string half =
+        "Circuit X {\n"
+        "   Pin Input i\n"
+        "\n"
+        "   Unit Inv g\n"
+        "\n"
+        "   Net inner i g.in\n"
+        "\n"
+        "}\n"
+        "\n"
+        "Pin Input p\n"
+        "\n"
+        "Unit X x\n"
+        "\n";
+    const std::string once = savedFrom(half + "Net n x.g.in p\n");
+    EXPECT_EQ(once, half + "Net n x.i x.g.in p\n\n");
+    const std::string twice = savedFrom(once);
+    EXPECT_EQ(twice, half + "Net n x.i x.g.in x.i p\n\n");
+    // Lines inside a declaration don't count for those behind it.
+    EXPECT_EQ(errorOfLoading(twice), "Error in board.nlx:7: Repeated port: 'x.i'.");
+}
+
+TEST(SavingLoses, UnitsAndPortsWhoseNameTheReaderRefused) {
+    EXPECT_EQ(savedFrom("Unit And a-b\n"), "Unit And \n\n") << "it has no name at all";
+    EXPECT_EQ(savedFrom("Pin Input a-b\n"), "Pin Input \n\n");
+    EXPECT_EQ(savedFrom("Pin Output a a(ztr=off)\n"), "Pin Output a a\n\n") << "two pins of one name";
+}
+
+TEST(SavingLoses, ImportPathsThatAreAbsoluteOrBelowTheFilesFolder) {
+    EXPECT_EQ(savedFrom("ImportPath \"/lib\"\n"), "ImportPath \"lib\"\n\n");
+    const Workplace here;
+    here.write("dir/board.nlx", "ImportPath \"dir/lib\"\nImportPath \"dir\"\n");
+    EXPECT_EQ(savedText(*CircuitFileReader().load("dir/board.nlx")), "ImportPath \"lib\"\n\n");
 }
 
 TEST(SavingLoses, TheOrderOfImportPaths) {
