@@ -109,7 +109,9 @@ private:
             const TestColumn& cell = cells[i];
             std::string bits = cell.value;
             if (cell.reversed != columns[i].reversed) std::ranges::reverse(bits);
-            writeAligned((cell.reversed ? "~" : "") + Value::bitsToHex(bits, false), columns[i]);
+            std::string text = Value::bitsToHex(bits, false);
+            if (cell.reversed) text.insert(text.begin(), '~');
+            writeAligned(text, columns[i]);
         }
     }
 

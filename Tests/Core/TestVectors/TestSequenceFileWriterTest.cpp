@@ -173,6 +173,16 @@ TEST(TestSequenceFileWriter, TheTildeCountsInTheWidth) {
               "0000   H ~LH     L ~L \n");
 }
 
+TEST(TestSequenceFileWriter, AVectorMayLackCells) {
+    const auto sequence = sequenceFrom("time a b => q\n0 H L H\n");
+    sequence->addVector(new TestVector(5U));
+    sequence->vector(1)->addInput("LLL");
+    EXPECT_EQ(writtenText(*sequence),
+              "time   a b => q \n"
+              "0000   H L    H \n"
+              "0005 LLL    \n");
+}
+
 // Delta times.
 
 TEST(TestSequenceFileWriter, DeltaTimesStandInTheSeparatorsColumn) {
