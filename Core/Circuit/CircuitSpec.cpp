@@ -27,6 +27,12 @@ CircuitSpec::CircuitSpec(const std::string& fileName)
     parseFile(fileName);
 }
 
+CircuitSpec::CircuitSpec(const std::string& fileName, const std::string& contents)
+    : name_(fileName), fileName_(fileName), current_(this), parentSpec_(nullptr) {
+    TextFile file(fileName, contents);
+    parseLines(file, fileName);
+}
+
 CircuitSpec::CircuitSpec(CircuitSpec* parent, const std::string& name)
     : name_(name), lineNumber_(parent->lineNumber_), current_(this), parentSpec_(parent) {}
 
@@ -54,6 +60,10 @@ void CircuitSpec::parseFile(const std::string& path) {
     const std::string found = resolveFile(path);
     TextFile file(found);
     if (!file.isOpen()) throw Error("Error: File not found: '" + path + "'.");
+    parseLines(file, found);
+}
+
+void CircuitSpec::parseLines(TextFile& file, const std::string& found) {
     filesBeingRead_.emplace_back(found);
     const std::string outerFile = std::exchange(fileBeingRead_, found);
     if (current_->sourceFile_.empty()) current_->sourceFile_ = found;

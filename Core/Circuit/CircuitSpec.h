@@ -21,6 +21,8 @@ class CircuitSpec : public FileParser {
 public:
     /// Reads the file; its path is also the circuit's name.
     explicit CircuitSpec(const std::string& fileName);
+    /// The same as if the file held `contents`. What it names is read from the disk.
+    CircuitSpec(const std::string& fileName, const std::string& contents);
     /// An empty body inside `parent`, which isn't owned and lives longer.
     CircuitSpec(CircuitSpec* parent, const std::string& name);
     CircuitSpec(const CircuitSpec&) = delete;
@@ -64,6 +66,7 @@ private:
     // Only the top-level object reads; the bodies inside it are filled by it.
 
     void parseFile(const std::string& path);
+    void parseLines(TextFile& file, const std::string& found);
     void handleLine(std::string line);
     void handleStatement(const std::string& line);
     void handleCircuit(const Fields& fields, const std::string& line);

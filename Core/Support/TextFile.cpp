@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <array>
+#include <fstream>
+#include <sstream>
 
 #include "Core/Support/Error.h"
 
@@ -47,12 +49,18 @@ std::optional<std::string> readBytes(const std::string& path, std::size_t most) 
 }
 
 TextFile::TextFile(const std::string& path) : path_(path) {
-    if (!isDirectory(path)) stream_.open(path);
+    if (isDirectory(path)) return;
+    auto file = std::make_unique<std::ifstream>(path);
+    if (file->is_open()) stream_ = std::move(file);
 }
 
+TextFile::TextFile(const std::string& path, const std::string& contents)
+    : path_(path), stream_(std::make_unique<std::istringstream>(contents)) {}
+
 bool TextFile::readLine(std::string& line) {
-    if (std::getline(stream_, line)) return true;
-    if (stream_.bad()) throw Error("Error: cannot read file '%s'.", path_.c_str());
+    if (!isOpen()) return false;
+    if (std::getline(*stream_, line)) return true;
+    if (stream_->bad()) throw Error("Error: cannot read file '%s'.", path_.c_str());
     return false;
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <fstream>
+#include <istream>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -29,8 +30,10 @@ class TextFile {
 public:
     /// Opens the file if it can. A directory can't be opened as a text.
     explicit TextFile(const std::string& path);
+    /// Stands for a file of that path with these contents; the disk isn't asked.
+    TextFile(const std::string& path, const std::string& contents);
 
-    bool isOpen() const { return stream_.is_open(); }
+    bool isOpen() const { return stream_ != nullptr; }
 
     /// The next line without its line feed; a last line without one counts. False at the end. Raises an Error that
     /// names the file if the system can't read on.
@@ -38,7 +41,7 @@ public:
 
 private:
     std::string path_;
-    std::ifstream stream_;
+    std::unique_ptr<std::istream> stream_;  ///< null if the file can't be opened
 };
 
 }  // namespace tarnsim

@@ -11,6 +11,16 @@
 namespace tarnsim {
 
 void TestSequenceFileReader::read(const std::string& path, TestSequence& sequence) {
+    TextFile file(path);
+    readLines(file, path, sequence);
+}
+
+void TestSequenceFileReader::read(const std::string& path, const std::string& contents, TestSequence& sequence) {
+    TextFile file(path, contents);
+    readLines(file, path, sequence);
+}
+
+void TestSequenceFileReader::readLines(TextFile& file, const std::string& path, TestSequence& sequence) {
     lineNumber_ = 0;
     fileName_ = path;
     sequence_ = &sequence;
@@ -18,7 +28,6 @@ void TestSequenceFileReader::read(const std::string& path, TestSequence& sequenc
     sequence.clear();
     sequence.setFileName(path);
 
-    TextFile file(path);
     if (!file.isOpen()) throw Error("File '%s'not found.", path.c_str());
     std::string line;
     while (file.readLine(line)) {
