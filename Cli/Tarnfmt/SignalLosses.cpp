@@ -10,11 +10,11 @@ namespace tarnsim {
 namespace {
 
 std::string optionsSubject(const std::string& name) {
-    return "options line of '" + name + "'";
+    return "the options of '" + name + "'";
 }
 
 std::string assignmentSubject(const std::string& name) {
-    return "assignment to '" + name + "'";
+    return "the assignment to '" + name + "'";
 }
 
 void addHeader(const TestVectorHeader& header, Facts& facts) {
@@ -30,19 +30,20 @@ void addHeader(const TestVectorHeader& header, Facts& facts) {
     }
 }
 
-void addCells(const std::string& kind, const std::vector<TestColumn>& cells, Fact& fact) {
-    for (std::size_t i = 0; i < cells.size(); ++i) {
-        fact.aspects[format("%s %d", kind.c_str(), static_cast<int>(i) + 1)] =
-            (cells[i].reversed ? "~" : "") + cells[i].value;
-    }
+/// The cell in a column of the header, counted as people count: the time is the first.
+void addCell(const TestVectorHeader& header, int column, const TestColumn& cell, Fact& fact) {
+    const std::string name = format("cell %d ('%s')", column + 1, header.columnName(column).c_str());
+    fact.aspects[name] = (cell.reversed ? "~" : "") + cell.value;
 }
 
-void addVector(const TestVector& vector, Facts& facts) {
+void addVector(const TestVectorHeader& header, const TestVector& vector, Facts& facts) {
     Fact fact{format("the vector at %d", vector.time()),
               {{"comment", vector.getCommentText()}, {"delta time", std::to_string(vector.deltaTime())}},
               vector.getLineNumber()};
-    addCells("input", vector.inputs(), fact);
-    addCells("output", vector.outputs(), fact);
+    int column = 1;
+    for (const TestColumn& cell : vector.inputs()) addCell(header, column++, cell, fact);
+    column = header.separatorColumn() + 1;
+    for (const TestColumn& cell : vector.outputs()) addCell(header, column++, cell, fact);
     facts.push_back(fact);
 }
 
@@ -60,7 +61,7 @@ Facts factsOf(const TestSequence& sequence) {
                          {{"value", assignment->value()}, {"comment", assignment->getCommentText()}}});
     }
     addHeader(*sequence.header(), facts);
-    for (const auto& vector : sequence.vectors()) addVector(*vector, facts);
+    for (const auto& vector : sequence.vectors()) addVector(*sequence.header(), *vector, facts);
     return facts;
 }
 

@@ -5,7 +5,9 @@
 //   expected.err   error stream, likewise; the single line `(any)` says that it isn't compared
 //   exit           exit status as the shell gives it, 134 for an abort; without the file 0
 //
-// A file `directory` names another working directory, as seen from the folder.
+// A file `directory` names another working directory, as seen from the folder. A file `program` names another program
+// of the same build folder. It is started in a copy of the folder, and afterwards each file of the copy must be as it
+// was, or as it stands in the folder `expected`; none may be missing or new.
 //
 // `--approve` writes what the program does into these files, for a person to review as a diff. `--filter=TEXT` runs the
 // cases with TEXT in their path, `--skip=TEXT` leaves those out, `--shard=I/N` runs every Nth case from the Ith on
@@ -21,6 +23,7 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -33,10 +36,14 @@ constexpr const char* kAnything = "(any)\n";
 /// No case may get lost: the number is raised by hand with every new one.
 constexpr std::size_t kCaseCount = 859;
 
+/// Contents by names; what a link leads to stands for the link.
+using Files = std::map<std::string, std::string>;
+
 struct Outcome {
     std::string output;
     std::string errors;
     int status = 0;
+    Files files;  ///< of a case with a program of its own
 };
 
 struct Options {
@@ -69,7 +76,25 @@ std::string trimmedLine(std::string text) {
     return text;
 }
 
-Outcome runCase(const fs::path& folder, const fs::path& program, const fs::path& scratch) {
+bool hasOwnProgram(const fs::path& folder) {
+    return fs::exists(folder / "program");
+}
+
+/// All below `folder`, but for the folder `expected`.
+Files filesOf(const fs::path& folder) {
+    Files files;
+    for (auto entry = fs::recursive_directory_iterator(folder); entry != fs::recursive_directory_iterator(); ++entry) {
+        const std::string name = fs::relative(entry->path(), folder).string();
+        if (name == "expected") {
+            entry.disable_recursion_pending();
+        } else if (!entry->is_directory()) {
+            files[name] = readAll(entry->path());
+        }
+    }
+    return files;
+}
+
+Outcome startProgram(const fs::path& folder, const fs::path& program, const fs::path& scratch) {
     const fs::path output = scratch / "out";
     const fs::path errors = scratch / "err";
     // The shell's own word about an aborted program goes nowhere.
@@ -81,9 +106,25 @@ Outcome runCase(const fs::path& folder, const fs::path& program, const fs::path&
     return {readAll(output), readAll(errors), WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status)};
 }
 
+Outcome runCase(const fs::path& folder, const fs::path& program, const fs::path& scratch) {
+    if (!hasOwnProgram(folder)) return startProgram(folder, program, scratch);
+    const fs::path copy = scratch / "case";
+    fs::copy(folder, copy, fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+    Outcome outcome = startProgram(copy, program.parent_path() / trimmedLine(readAll(folder / "program")), scratch);
+    outcome.files = filesOf(copy);
+    fs::remove_all(copy);
+    return outcome;
+}
+
 Outcome expectedOf(const fs::path& folder) {
     const std::string status = readAll(folder / "exit");
-    return {readAll(folder / "expected.out"), readAll(folder / "expected.err"), status.empty() ? 0 : std::stoi(status)};
+    Outcome expected = {
+        readAll(folder / "expected.out"), readAll(folder / "expected.err"), status.empty() ? 0 : std::stoi(status), {}};
+    if (!hasOwnProgram(folder)) return expected;
+    expected.files = filesOf(folder);
+    if (!fs::exists(folder / "expected")) return expected;
+    for (const auto& [name, text] : filesOf(folder / "expected")) expected.files[name] = text;
+    return expected;
 }
 
 void showText(const char* title, const std::string& expected, const std::string& actual) {
@@ -93,14 +134,28 @@ void showText(const char* title, const std::string& expected, const std::string&
               << actual << "\n";
 }
 
+void showFiles(const Files& expected, const Files& actual) {
+    Files all = expected;
+    all.insert(actual.begin(), actual.end());
+    for (const auto& [name, text] : all) {
+        if (!actual.contains(name)) std::cout << "  " << name << " is missing\n";
+        if (!expected.contains(name)) std::cout << "  " << name << " should not be there\n";
+        if (actual.contains(name) && expected.contains(name)) {
+            showText(name.c_str(), expected.at(name), actual.at(name));
+        }
+    }
+}
+
 bool check(const fs::path& folder, const Outcome& actual) {
     Outcome expected = expectedOf(folder);
     if (expected.errors == kAnything) expected.errors = actual.errors;
-    if (expected.output == actual.output && expected.errors == actual.errors && expected.status == actual.status)
+    if (expected.output == actual.output && expected.errors == actual.errors && expected.status == actual.status &&
+        expected.files == actual.files)
         return true;
     std::cout << "FAILED " << folder.string() << "\n";
     showText("standard output", expected.output, actual.output);
     showText("error stream", expected.errors, actual.errors);
+    showFiles(expected.files, actual.files);
     if (expected.status != actual.status) {
         std::cout << "  exit status expected " << expected.status << ", was " << actual.status << "\n";
     }
@@ -119,7 +174,20 @@ void approveFile(const fs::path& file, const std::string& text) {
 void approve(const fs::path& folder, const Outcome& actual) {
     approveFile(folder / "expected.out", actual.output);
     if (expectedOf(folder).errors != kAnything) approveFile(folder / "expected.err", actual.errors);
+    if (hasOwnProgram(folder)) approveFiles(folder, actual.files);
     approveFile(folder / "exit", actual.status == 0 ? "" : std::to_string(actual.status) + "\n");
+}
+
+/// Those that were changed or made stand in `expected`.
+void approveFiles(const fs::path& folder, const Files& actual) {
+    fs::remove_all(folder / "expected");
+    const Files before = filesOf(folder);
+    for (const auto& [name, text] : actual) {
+        const auto former = before.find(name);
+        if (former != before.end() && former->second == text) continue;
+        fs::create_directories((folder / "expected" / name).parent_path());
+        writeAll(folder / "expected" / name, text);
+    }
 }
 
 bool takeValue(const std::string& argument, const std::string& name, std::string& value) {
