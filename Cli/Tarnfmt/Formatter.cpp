@@ -62,7 +62,7 @@ private:
 };
 
 /// Units that aren't there, up to a gap that nobody would close by a slip.
-constexpr std::size_t kLongestGap = 65536;
+constexpr std::size_t kLongestGap = 4096;
 
 /// An array is written by its highest index. One with a wide gap would take all memory when it's read again.
 void refuseWideGaps(const Circuit& circuit) {

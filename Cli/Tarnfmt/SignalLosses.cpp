@@ -70,16 +70,12 @@ Facts factsOf(const TestSequence& sequence) {
 SignalSource::SignalSource(const std::string& contents) {
     TextFile file("", contents);
     std::string line;
-    bool isBeforeFirstRecord = true;
     while (file.readLine(line)) {
         ++line_;
         prepareLine(line);
-        if (!line.empty()) {
-            handleRecord(line);
-            isBeforeFirstRecord = false;
-        }
-        // Comments in front of the first record are the file's.
-        if (!line.empty() || isBeforeFirstRecord) lineOfComment_ = 0;
+        if (line.empty()) continue;
+        handleRecord(line);
+        lineOfComment_ = 0;
     }
     if (lineOfComment_ != 0) losses_.push_back({lineOfComment_, "loses the comment behind the last line"});
 }

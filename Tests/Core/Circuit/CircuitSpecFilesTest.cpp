@@ -25,6 +25,21 @@ TEST(CircuitFile, ThatIsNotThereIsNamedInFullWhateverItsLength) {
     EXPECT_EQ(errorOf([&] { const CircuitSpec spec(name); }), "Error: File not found: '" + name + "'.");
 }
 
+TEST(CircuitFile, MayHaveContentsThatAreNotOnTheDisk) {
+    const Workplace here;
+    here.write("dir/part.nlx", "Unit And b\n");
+    const CircuitSpec spec("dir/board.nlx", "Unit And a\nImport \"part.nlx\"\n");
+    EXPECT_EQ(unitNames(spec), (Texts{"a", "b"}));
+    EXPECT_EQ(spec.getName(), "dir/board.nlx");
+    EXPECT_EQ(spec.getFileName(), "dir/board.nlx");
+    EXPECT_EQ(spec.getSourceFile(), "dir/board.nlx");
+    EXPECT_EQ(errorOf([] { const CircuitSpec bad("x.nlx", "\nUnits\n"); }),
+              "Error in x.nlx:2: Illegal keyword: 'Units'.");
+    here.write("dir/loop.nlx", "");
+    EXPECT_EQ(errorOf([] { const CircuitSpec bad("dir/loop.nlx", "Import \"loop.nlx\"\n"); }),
+              "Error in dir/loop.nlx:1: 'dir/loop.nlx' is being read already, it imports itself.");
+}
+
 TEST(CircuitFile, ThatIsImportedIsReadAsIfItsLinesStoodThere) {
     const Workplace here;
     here.write("part.nlx", "Unit And b\nCircuit x {\nUnit Or inner\n}\nMetaData k 'v'\n");

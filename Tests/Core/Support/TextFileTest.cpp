@@ -59,6 +59,15 @@ TEST(TextFile, DoesNotOpenADirectory) {
     EXPECT_FALSE(TextFile(folder.path("")).isOpen());
 }
 
+TEST(TextFile, StandsForAFileWithGivenContents) {
+    const TemporaryFolder folder;
+    TextFile file(folder.write("file", "on the disk\n"), "a\n\nb");
+    ASSERT_TRUE(file.isOpen());
+    std::vector<std::string> lines;
+    for (std::string line; file.readLine(line);) lines.push_back(line);
+    EXPECT_EQ(lines, (std::vector<std::string>{"a", "", "b"}));
+}
+
 TEST(TextFile, NamesTheFileThatTheSystemCannotReadOn) {
     // The first page of a process is never mapped: this file opens, and reading its first byte is an error.
     TextFile file("/proc/self/mem");

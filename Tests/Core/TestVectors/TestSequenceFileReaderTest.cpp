@@ -19,6 +19,16 @@ struct Refusal {
     }
 };
 
+TEST(TestSequenceFileReader, ReadsContentsThatAreNotOnTheDisk) {
+    TestSequence sequence(TestSequence::kEmpty);
+    TestSequenceFileReader().read("none.sig", "time a => b\n5 H L\n", sequence);
+    EXPECT_EQ(sequence.fileName(), "none.sig");
+    EXPECT_EQ(sequence.vectorCount(), 1);
+    EXPECT_EQ(errorOf([&] { TestSequenceFileReader().read("none.sig", "", sequence); }),
+              "Test vector file ('none.sig') must at least contain a header.\n");
+    EXPECT_EQ(sequence.vectorCount(), 0);
+}
+
 TEST(TestSequenceFileReader, AFileGivesItsRecordsInTheOrderOfEachKind) {
     const TemporaryFolder folder;
     const std::string path = folder.write("x.sig", "x = 1\nU1(a=1)\ntime a => b\n0 H L\nU2()\n10 L H\ny=2\n");

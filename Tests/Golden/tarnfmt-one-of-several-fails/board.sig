@@ -1,0 +1,2 @@
+time g.a => b
+0 L X
