@@ -85,5 +85,22 @@ void runSieve(benchmark::State& state) {
 BENCHMARK(runSieve<m6502, m6502Descriptor>);
 BENCHMARK(runSieve<w65c02, w65c02Descriptor>);
 
+/// The core and nothing else: a bus on which every address holds a NOP.
+template <class Core, class Descriptor>
+void runNops(benchmark::State& state) {
+    constexpr std::uint64_t kNop = 0xEA;
+    Core core{};
+    const Descriptor descriptor;
+    std::uint64_t pins = initialise(&core, &descriptor);
+    constexpr int kTicks = 100'000;
+    for (auto _ : state) {
+        for (int i = 0; i < kTicks; ++i) pins = tick(&core, (pins & ~CyclePin::kData) | kNop << CyclePin::kDataShift);
+        benchmark::DoNotOptimize(pins);
+    }
+    state.SetItemsProcessed(state.iterations() * kTicks);
+}
+BENCHMARK(runNops<m6502, m6502Descriptor>);
+BENCHMARK(runNops<w65c02, w65c02Descriptor>);
+
 }  // namespace
 }  // namespace tarnsim
