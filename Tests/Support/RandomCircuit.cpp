@@ -77,7 +77,8 @@ struct UnitText {
 
 /// One circuit body in the making.
 struct Body {
-    std::string directory;  ///< that the files it names are relative to
+    std::string directory;      ///< that the files it names are relative to
+    std::string fileDirectory;  ///< where its text stands; files beside it are found, too
     std::size_t depth = 0;
     std::vector<Declaration> declarations;
     std::vector<Statement> declarationStatements;
@@ -122,8 +123,8 @@ std::size_t costOf(const std::string& type) {
 std::string parameterTextOf(const Parameters& parameters) {
     std::string text;
     for (const auto& [key, value] : parameters) {
-        text += (text.empty() ? "(" : ",") + key;
-        if (!value.empty()) text += "=" + value;
+        text.append(text.empty() ? "(" : ",").append(key);
+        if (!value.empty()) text.append("=").append(value);
     }
     return text.empty() ? text : text + ")";
 }
@@ -131,7 +132,9 @@ std::string parameterTextOf(const Parameters& parameters) {
 Timing timingOf(const std::string& type, const std::string& parameterText) {
     using Reads = Timing::Reads;
     if (isOneOf(type, {"High", "Low", "Const", "Oscillator"})) return {Reads::Past, kBeforeRun};
-    if (type == "IDT7132LA" || isProcessor(type)) return {Reads::Present, kFirstPass};
+    // These set outputs for the future, too. For readers that is as if it had been done before the run; and a net that
+    // is resolved for the future knows nothing of what its other drivers do until then.
+    if (type == "IDT7132LA" || isProcessor(type)) return {Reads::Present, kSeveralPasses};
     if (isConnector(type)) return {Reads::AtOnce, kOpenPass};
     // These are made of parts that hand on without delay what others have computed.
     const int outputPass = isOneOf(type, {"74LS154", "74LS374", "74x574"}) ? kSeveralPasses : kFirstPass;
@@ -254,7 +257,8 @@ private:
         if (type == "Join") {  // every bit at most once
             for (std::size_t bit = 0; bit < size;) {
                 const std::size_t last = c_.between(bit, std::min(size - 1, bit + 7));
-                if (!c_.onceIn(8)) add(c_.below(ports), segment(bit, last));
+                const std::size_t port = c_.below(ports);
+                if (!c_.onceIn(8)) add(port, segment(bit, last));
                 bit = last + 1;
             }
         } else {
@@ -308,7 +312,10 @@ private:
             parameters.emplace_back("device", c_.oneOf({"LA20", "LA25", "LA35", "LA55", "LA100"}));
         }
         if (isOneOf(type, {"27C64", "HM62256B", "IDT7132LA"}) && c_.onceIn(3)) addImage(parameters);
-        if (c_.onceIn(16)) parameters.emplace_back(c_.oneOf({"note", "x", "$1"}), c_.oneOf({"", "top%", "a+b/c"}));
+        if (c_.onceIn(16)) {
+            const std::string key = c_.oneOf({"note", "x", "$1"});
+            parameters.emplace_back(key, c_.oneOf({"", "top%", "a+b/c"}));
+        }
         if (c_.onceIn(4)) c_.shuffle(parameters);
         return parameters;
     }
@@ -414,12 +421,13 @@ private:
             return;
         }
         Signal* signal = nullptr;
-        if (way == 1 && mayJoin && !port.isForDisplay) {
+        if (way == 1 && mayJoin && !((port.isForDisplay || port.isClosed) && style_.saveable)) {
             signal = findSignal(body, port.width, [&](const Wires& wires) { return takesDriver(wires, port.pass); });
             if (signal != nullptr) count("net with several drivers");
         }
         if (signal == nullptr) signal = &addSignal(body, port.width);
         addDriver(*signal->wires, port.pass);
+        signal->wires->isClosed |= port.isClosed;
         signal->wires->isForDisplay = port.isForDisplay && style_.saveable;
         signal->paths.push_back(port.path);
     }
@@ -500,11 +508,11 @@ private:
         for (std::size_t i = free; atOnce && i < body.freePorts.size(); ++i) body.freePorts[i].pass = pass;
         for (PartPort& port : ports) {
             port.pass = timing.outputPass == kOpenPass ? pass + 1 : timing.outputPass;
+            port.isClosed = timing.reads == Timing::Reads::Present || port.direction == Direction::Inout;
             if (port.direction == Direction::Output) {
                 port.isForDisplay = type == "IDT7132LA";  // whose busy lines are told for the past
                 connectOutput(body, port);
             } else if (port.direction == Direction::Inout) {
-                port.isClosed = true;
                 connectBus(body, port);
             }
         }
@@ -622,11 +630,15 @@ private:
             place = body.directory.empty() && c_.onceIn(2) ? "" : "lib/";
             if (body.directory.empty() && place == "lib/") {
                 // What isn't there is looked for on the import path by its last name.
-                declaration.fileText = (usesImportPath_ && c_.onceIn(2) ? c_.oneOf({"", "missing/"}) : place) + name;
+                const bool isImported = usesImportPath_ && body.fileDirectory.empty() && c_.onceIn(2);
+                declaration.fileText = (isImported ? c_.oneOf({"", "missing/"}) : place) + name;
             }
             place += name;
             inner.directory = directoryOf(body.directory.empty() ? declaration.fileText
                                                                  : body.directory + "/" + declaration.fileText);
+            inner.fileDirectory = directoryOf(place);
+        } else {
+            inner.fileDirectory = body.fileDirectory;
         }
         fill(inner);
         const std::string indent(inner.depth * 3, ' ');
@@ -723,7 +735,10 @@ private:
                 signal.paths.push_back(addOwnPort(body, signal.width, Direction::Output, signal.wires).name);
             }
         }
-        if (c_.onceIn(8)) addOwnPort(body, width(), static_cast<Direction>(c_.below(3)), nullptr);
+        if (c_.onceIn(8)) {
+            const std::uint32_t size = width();
+            addOwnPort(body, size, static_cast<Direction>(c_.below(3)), nullptr);
+        }
     }
 
     // Text.
@@ -738,7 +753,8 @@ private:
             "caf\xC3\xA9 \xE2\x86\x92",
             "tab\tinside  and blanks",
         };
-        return c_.oneOf({" #", " # ", "\t#"}) + texts[c_.between(mayBeEmpty ? 0 : 1, texts.size() - 1)];
+        const std::string start = c_.oneOf({" #", " # ", "\t#"});
+        return start + texts[c_.between(mayBeEmpty ? 0 : 1, texts.size() - 1)];
     }
 
     void writeComment(std::string& text, const std::string& indent, bool mayBeEmpty) {
@@ -776,8 +792,10 @@ private:
             std::string value = c_.oneOf({"somebody", "  two  words ", "a=b; {c} [d]", "", "it's", "100%"});
             if (!style_.saveable && c_.onceIn(2)) value = c_.oneOf({"C:\\new\\x", "tab\there", "caf\xC3\xA9"});
             const char* quote = value.find('\'') == std::string::npos && c_.onceIn(3) ? "'" : "\"";
-            statements.push_back(
-                {"MetaData" + blank() + c_.oneOf({"author", "pos_x", "9"}) + " " + quote + value + quote, false});
+            std::string text = "MetaData";
+            text += blank();
+            text += c_.oneOf({"author", "pos_x", "9"});
+            statements.push_back({text + " " + quote + value + quote, false});
             count("MetaData");
         }
         return statements;

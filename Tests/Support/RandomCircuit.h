@@ -16,8 +16,9 @@ struct RandomPort {
     std::uint32_t width = 1;
 };
 
-/// A circuit of parts of the library and of circuits declared in it, as a set of files. It always loads, and a run of
-/// it takes a time that its size and the simulated time bound.
+/// A circuit of parts of the library and of circuits declared in it, as a set of files. It always loads, and no run of
+/// it takes long. A run may end in an error, which is rare: a counter that counts from U, or a loop of wires through
+/// units.
 struct RandomCircuit {
     /// The circuit's own file among `files`.
     static constexpr const char* kFile = "circuit.nlx";

@@ -71,7 +71,9 @@ private:
             count("no outputs");
             return text;
         }
-        text += blank() + (c_.onceIn(8) ? "~" : "") + separator;
+        text += blank();
+        if (c_.onceIn(8)) text += "~";
+        text += separator;
         if (hasDeltaTime_) count("delta time");
         for (std::size_t i = 0; i < circuit_.outputs.size() && i < 12; ++i) {
             if (c_.onceIn(4)) continue;
@@ -94,15 +96,19 @@ private:
         std::string text = c_.onceIn(6) ? format("%06zu ", time) : format("%zu ", time);
         bool isDeltaTimeDone = !hasDeltaTime_;
         for (const Column& column : columns_) {
-            if (!column.isInput && !std::exchange(isDeltaTimeDone, true)) text += blank() + deltaTime();
-            text += blank() + cell(column);
+            if (!column.isInput && !std::exchange(isDeltaTimeDone, true)) text += deltaTime();
+            text += blank();
+            text += cell(column);
         }
-        if (!isDeltaTimeDone) text += blank() + deltaTime();
+        if (!isDeltaTimeDone) text += deltaTime();
         return text;
     }
 
     std::string deltaTime() {
-        return std::to_string(c_.below(style_.maxStep + 1)) + (c_.onceIn(20) ? "A" : "");  // its digits count
+        std::string text = blank();
+        text += std::to_string(c_.below(style_.maxStep + 1));
+        if (c_.onceIn(20)) text += "A";  // its digits count
+        return text;
     }
 
     std::string cell(const Column& column) {
@@ -126,7 +132,11 @@ private:
         switch (c_.below(column.isInput ? 8 : 12)) {
             case 1: return digits(width, "LH");
             case 2: count("undefined letters"); return digits(width, style_.runnable ? "LHLHU" : "LHLHUZX");
-            case 3: count("letters and digits"); return digits(width % 4, "LH") + digits(width / 4, "0123456789ABCDEF");
+            case 3: {
+                count("letters and digits");
+                std::string text = digits(width % 4, "LH");
+                return text += digits(width / 4, "0123456789ABCDEF");
+            }
             case 4: return digits(c_.between(1, width), "LH");
             case 5: return digits((width + 3) / 4 + c_.below(3), "01289abcdefABF");
             case 6:
@@ -192,13 +202,14 @@ private:
 
     // The text.
 
-    std::string commentText() {
-        return c_.oneOf({"# first check", "#", "#  reset = L", "## time a => b", "#\tcaf\xC3\xA9"});
+    std::string comment() {
+        std::string text = blank();
+        return text += c_.oneOf({"# first check", "#", "#  reset = L", "## time a => b", "#\tcaf\xC3\xA9"});
     }
 
     void writeComments() {
         for (std::size_t left = c_.onceIn(5) ? c_.between(1, 3) : 0; left > 0; --left) {
-            result_.text += blank() + commentText() + "\n";
+            result_.text += comment() + "\n";
             if (c_.onceIn(6)) result_.text += "\n";
             count("comment");
         }
@@ -223,7 +234,7 @@ private:
             if (c_.onceIn(8)) result_.text += "\n";
             result_.text += (c_.onceIn(10) ? " " : "") + records_[i].text;
             if (mayHaveComment && c_.onceIn(8)) {
-                result_.text += blank() + commentText();
+                result_.text += comment();
                 count("comment behind a record");
             }
             result_.text += "\n";
