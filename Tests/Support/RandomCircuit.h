@@ -52,9 +52,9 @@ struct RandomCircuitStyle {
     /// change before it is evaluated; the same holds for parts that look at the present state of their inputs. And
     /// there is one processor of a kind at most, since all of a kind share what they know of a reset.
     bool saveable = true;
-    std::size_t maxUnits = 7;  ///< unit statements in one body
+    std::size_t maxUnits = 6;  ///< unit statements in one body
     std::size_t maxDepth = 3;  ///< declarations within each other
-    std::size_t budget = 30;   ///< about the number of parts that the loaded circuit has
+    std::size_t budget = 20;   ///< about the number of parts that the loaded circuit has
 };
 
 RandomCircuit makeRandomCircuit(Choices& choices, const RandomCircuitStyle& style = {});

@@ -41,12 +41,12 @@ void addContents(Texts& lines, const Circuit& circuit, const std::string& where)
     std::ranges::sort(unordered);
     for (const std::string& line : unordered) add(line);
     for (const Net* net : circuit.getNets()) {
-        std::string line = "Net " + net->getName();
-        for (const Port* port : net->getPorts()) line += " " + circuit.getPortPath(port);
+        std::string line = format("Net %s", net->getName().c_str());
+        for (const Port* port : net->getPorts()) line.append(" ").append(circuit.getPortPath(port));
         add(line + " " + net->getCommentText());
     }
     for (const Circuit* declaration : circuit.getDeclarations()) {
-        add("Circuit " + declaration->getType() + " " + declaration->getFilePath());
+        add(format("Circuit %s %s", declaration->getType().c_str(), declaration->getFilePath().c_str()));
         addContents(lines, *declaration, where + declaration->getType() + ": ");
     }
 }
