@@ -5,6 +5,7 @@
 
 #include "Core/Circuit/CircuitSpec.h"
 #include "Core/Circuit/Lines.h"
+#include "Core/Circuit/Wiring.h"
 #include "Core/Simulation/Port.h"
 #include "Core/Support/Error.h"
 #include "Core/Support/TLog.h"
@@ -25,6 +26,7 @@ Circuit::Circuit(const std::string& name, Circuit* parent) : Circuit("Circuit", 
 Circuit::Circuit(const std::string& type, const std::string& name, Circuit* parent) : Component(type, name, parent) {}
 
 Circuit::~Circuit() {
+    wiring_.reset();
     dissolveNets();
     for (Port* port : getPorts()) {
         port->disconnect(kInside);
@@ -59,6 +61,20 @@ void Circuit::reset() {
 void Circuit::start(Time endTime) {
     for (Component* child : children_) child->start(endTime);
     for (Circuit* declaration : declarations_) declaration->start(endTime);
+}
+
+void Circuit::setSimulator(EventSimulator* simulator) {
+    cutWires();
+    simulator_ = simulator;
+}
+
+void Circuit::layWires(EventSimulator& simulator) {
+    wiring_.reset();
+    wiring_ = std::make_unique<Wiring>(*this, simulator);
+}
+
+void Circuit::cutWires() {
+    for (Circuit* each = this; each != nullptr; each = each->getParent()) each->wiring_.reset();
 }
 
 void Circuit::evaluate(Time time) {

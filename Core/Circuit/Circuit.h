@@ -24,6 +24,7 @@ class NetLine;
 class PinLine;
 class PortLine;
 class UnitLine;
+class Wiring;
 
 /// A circuit: units, the nets between their ports, and the declarations of circuit types that its units may have. It is
 /// itself a component, so it can be a unit of another circuit.
@@ -90,7 +91,11 @@ public:
     bool isInside(const Circuit* other) const;
     /// The simulator of this circuit or of the nearest one around it that has one; null if none has.
     EventSimulator* findSimulator() const;
-    void setSimulator(EventSimulator* simulator) { simulator_ = simulator; }
+    void setSimulator(EventSimulator* simulator);
+    /// For the simulator that prepares a run: finds the signals that are always the same.
+    void layWires(EventSimulator& simulator);
+    /// Whatever was laid here or by a circuit around this one.
+    void cutWires();
     /// It has a parent and stands in a file of its own.
     bool hasOwnFile() const;
     /// It has a parent, no file of its own, and isn't a part of the library.
@@ -279,6 +284,7 @@ private:
     /// The first declaration of each type; empty until asked for, and again after a change.
     mutable std::unordered_map<std::string, Circuit*> declarationsByType_;
     EventSimulator* simulator_ = nullptr;  ///< not owned
+    std::unique_ptr<Wiring> wiring_;       ///< null but for the root of a prepared run
 };
 
 }  // namespace tarnsim

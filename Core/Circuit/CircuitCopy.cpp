@@ -5,6 +5,7 @@
 
 #include "Core/Circuit/Circuit.h"
 #include "Core/Circuit/CircuitSpec.h"
+#include "Core/Circuit/Wiring.h"
 #include "Core/Support/Error.h"
 
 namespace tarnsim {

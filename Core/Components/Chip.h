@@ -34,6 +34,8 @@ public:
     Chip(const std::string& name, std::uint32_t delay)
         : SingleDelayComponent(std::string(Part::info.typeName), name, delay) {}
 
+    Response responseTo(const Port& /*port*/) const override { return responseOf<Part>(); }
+
 protected:
     struct ApplyLater {};
     Chip(const std::string& name, const ParaMap& parameters, ApplyLater /*unused*/)

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <type_traits>
 
 #include "Core/Circuit/Circuit.h"
 #include "Core/Components/PartInfo.h"
@@ -29,6 +30,10 @@ public:
     void inputChanged(Port* /*port*/, const Value& /*oldValue*/, const Value& /*newValue*/, Time time) override {
         scheduleAfter(time, delay_);
     }
+    Response responseTo(const Port& /*port*/) const override {
+        static_assert(std::is_same_v<decltype(&Part::inputChanged), decltype(&CircuitChip::inputChanged)>);
+        return {Response::Kind::Event, 0, delay_};
+    }
     void applyParameters() override {
         std::uint32_t delay = delay_;
         getParameters().get("delay", &delay);
@@ -45,7 +50,10 @@ public:
     }
 
     std::uint32_t getDelay() const { return delay_; }
-    virtual void setDelay(std::uint32_t delay) { delay_ = delay; }
+    virtual void setDelay(std::uint32_t delay) {
+        delay_ = delay;
+        responsesChange();
+    }
 
 protected:
     Time inputTime(Time time) const { return earlier(time, delay_); }

@@ -52,6 +52,16 @@ void Component::valueChanged(ValueHistory* history, const ValueChange& change) {
 
 void Component::inputChanged(Port* /*port*/, const Value& /*oldValue*/, const Value& /*newValue*/, Time /*time*/) {}
 
+Response Component::responseTo(const Port& /*port*/) const {
+    return {};
+}
+
+void Component::responsesChange() const {
+    for (const Port* port : ports_) {
+        if (port->getWire() != nullptr) port->getWire()->cut();
+    }
+}
+
 void Component::disconnectPorts() {
     for (Port* port : ports_) port->disconnect(kOutside);
 }
@@ -102,6 +112,13 @@ Pin* Component::findPin(const std::string& name) const {
 std::size_t Component::countPortsById(const std::string& id) const {
     return static_cast<std::size_t>(
         std::ranges::count_if(ports_, [&](const Port* port) { return port->getId() == id; }));
+}
+
+void Component::setParent(Circuit* circuit) {
+    // Who is evaluated by which simulator changes, for this component and for all in it.
+    if (parent_ != nullptr) parent_->cutWires();
+    responsesChange();
+    parent_ = circuit;
 }
 
 void Component::setType(const std::string& type) {

@@ -1,9 +1,13 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <limits>
 #include <string>
+#include <type_traits>
 #include <vector>
 
+#include "Core/Simulation/Event.h"
 #include "Core/Simulation/Port.h"
 #include "Core/Support/BaseObject.h"
 #include "Core/Support/Comment.h"
@@ -15,6 +19,19 @@ namespace tarnsim {
 
 class Circuit;
 class EventSimulator;
+
+/// What a component does when an Input changes.
+struct Response {
+    enum class Kind {
+        Anything,  ///< whatever its inputChanged does
+        Nothing,
+        Event,  ///< enters an event of its own `delay` ns after the change, and does nothing else
+    };
+
+    Kind kind = Kind::Anything;
+    std::uint64_t tag = 0;    ///< of the event
+    std::uint32_t delay = 0;  ///< ns
+};
 
 /// The base of everything that can stand in a circuit: gates, chips, memories, processors and Circuit itself.
 ///
@@ -49,6 +66,9 @@ public:
     void valueChanged(ValueHistory* history, const ValueChange& change) override;
     /// An Input port changes at `time`. The port still holds the old value.
     virtual void inputChanged(Port* port, const Value& oldValue, const Value& newValue, Time time);
+    /// What inputChanged does for `port`. Who overrides one of the two overrides both, and calls `responsesChange` when
+    /// the answer becomes another.
+    virtual Response responseTo(const Port& port) const;
     /// Leaves the nets outside.
     virtual void disconnectPorts();
     /// Reads `getParameters()` into the part's own settings.
@@ -94,13 +114,22 @@ public:
     void setParameters(const ParaMap& parameters);
     /// `name(a=b,c=d)`: from this text and the type a factory makes the same part.
     std::string getInstanceText() const { return getName() + getParameterText(); }
-    void setParent(Circuit* circuit) { parent_ = circuit; }
+    void setParent(Circuit* circuit);
 
     /// The simulator of the circuit that this component stands in; null if there is none.
     EventSimulator* getSimulator() const;
     /// Has `target` evaluated at `time`, absolute and in ns. Without a simulator nothing happens.
     void schedule(Component* target, Time time) const;
     void scheduleTagged(Component* target, std::uint64_t tag, Time time) const;
+
+    /// For the run's directory: the number of this component's plain event.
+    EventNumber& plainEvent() { return plainEvent_; }
+    /// The cache lines of this object that an evaluation looks at: which class it is, and what the class has beside this
+    /// one.
+    std::array<const void*, 4> hotPlaces() const {
+        const auto* end = reinterpret_cast<const char*>(&plainEvent_);
+        return {this, end, end + 64, end + 128};
+    }
 
     /// Sets each Input, or each Output, to what it reads at `time`. Inouts are left alone.
     void refreshInputs(Time time);
@@ -110,6 +139,7 @@ public:
     void checkConnections() const;
 
 protected:
+    void responsesChange() const;
     /// For a circuit, which alone is copied: copies of the ports, on no nets, in their order.
     Component(const Component& other);
 
@@ -139,6 +169,7 @@ private:
     PortFactory portFactory_;
     ParaMap parameters_;
     std::string type_;
+    EventNumber plainEvent_ = std::numeric_limits<EventNumber>::max();
 };
 
 /// A component whose outputs follow its inputs after one delay: `evaluate(t)` reads the inputs at `t - delay` and sets
@@ -159,11 +190,24 @@ public:
 
     std::uint32_t getDelay() const { return delay_; }
     /// In ns. Parts that are made of others pass it on.
-    virtual void setDelay(std::uint32_t delay) { delay_ = delay; }
+    virtual void setDelay(std::uint32_t delay) {
+        delay_ = delay;
+        responsesChange();
+    }
 
 protected:
     /// Sets `delay` as the parameters have it; an absent one leaves it as it is.
     void readDelay();
+    /// The response of the concrete `Part`, if it leaves inputChanged as it is here.
+    template <class Part>
+    Response responseOf() const {
+        using Inherited = decltype(&SingleDelayComponent::inputChanged);
+        if constexpr (std::is_same_v<decltype(&Part::inputChanged), Inherited>) {
+            return {Response::Kind::Event, 0, delay_};
+        } else {
+            return {};
+        }
+    }
     /// When the change took place that leads to an evaluation at `time`.
     Time inputTime(Time time) const { return earlier(time, delay_); }
 

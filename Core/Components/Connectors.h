@@ -82,6 +82,7 @@ public:
     void evaluate(Time time) override;
     /// At the very time of the change, whatever changed.
     void inputChanged(Port* port, const Value& oldValue, const Value& newValue, Time time) override;
+    Response responseTo(const Port& /*port*/) const override { return {Response::Kind::Event}; }
 
 private:
     void refuseOverlaps() const;
@@ -115,6 +116,7 @@ public:
     void evaluate(Time time) override;
     /// At the very time of the change.
     void inputChanged(Port* port, const Value& oldValue, const Value& newValue, Time time) override;
+    Response responseTo(const Port& /*port*/) const override { return {Response::Kind::Event}; }
 
 private:
     Port* in;

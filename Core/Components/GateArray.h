@@ -38,6 +38,7 @@ public:
         }
     }
 
+    Response responseTo(const Port& /*port*/) const override { return this->template responseOf<Part>(); }
     void evaluate(Time time) override {
         for (const auto& gate : gates_) gate->evaluate(time);
     }

@@ -3,7 +3,7 @@
 namespace tarnsim {
 
 void Inv::evaluate(Time time) {
-    out.set(Logic::Not(in.get(inputTime(time))), time);
+    out.setLevel(Logic::Not(in.level(inputTime(time))), time);
 }
 
 }  // namespace tarnsim

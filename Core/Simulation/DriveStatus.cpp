@@ -4,13 +4,9 @@
 
 namespace tarnsim {
 
-namespace {
-
 void checkDriverCount(int total) {
     if (total > 255) throw Error("*** ERROR: Maximum size of a a network is reached. Max 255 ports per net.");
 }
-
-}  // namespace
 
 void PinDriveStatus::add(char letter) {
     checkDriverCount(total_ + 1);

@@ -8,6 +8,9 @@
 
 namespace tarnsim {
 
+/// Raises an Error for more drivers of one bit than the 255 that are counted.
+void checkDriverCount(int total);
+
 /// What one bit of a net is driven with: how many drivers there are, and at which level. A driver at `U` or `X` is
 /// counted in `total` alone.
 class PinDriveStatus {

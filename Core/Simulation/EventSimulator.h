@@ -19,7 +19,7 @@ class Port;
 /// Its circuit, and copies of that, schedule with it until setSimulator gives them another one or null; it must live as
 /// long. It carries no values; those are in the histories of ports and nets, written for any time at any moment. One
 /// simulator serves one root circuit, which it doesn't own. The order of use is: construction, `prepare`, stimuli set
-/// on ports, `run` once, then the tables. Nothing leaves the queue, so a second `run` would call everything again.
+/// on ports, `run` once, then the tables. Nothing is ever forgotten, so a second `run` calls everything again.
 class EventSimulator {
 public:
     /// Makes itself known to `circuit`, so that its components can schedule.
@@ -32,9 +32,13 @@ public:
     /// has passed never comes.
     void schedule(Component* target, Time time) { schedule(target, 0, time); }
     /// The same with a tag that `target` gets back. A tag of 0 is a plain event.
-    void schedule(Component* target, std::uint64_t tag, Time time) { events_.insert({target, tag}, time); }
+    void schedule(Component* target, std::uint64_t tag, Time time) { schedule(numberOf({target, tag}), time); }
+    /// The same for whoever schedules an event again and again.
+    void schedule(EventNumber event, Time time) { queue_.insert(event, time); }
+    EventNumber numberOf(const Event& event) { return events_.numberOf(event); }
+    EventDirectory& events() { return events_; }
 
-    /// Resets the circuit, then starts it.
+    /// Resets the circuit, looks which of its signals are always the same (see Wiring), then starts it.
     void prepare(Time endTime);
 
     /// Calls everything that is due up to and including `endTime`. What happens at one time happens in passes, as many
@@ -59,13 +63,14 @@ public:
 private:
     struct Table;
 
-    void workThrough(EventSet& events, Time time);
+    void workThrough(Time time);
     Table makeTable(const std::vector<std::string>& inputs, const std::vector<std::string>& outputs,
                     const std::vector<std::string>& nets) const;
     void printRow(const Table& table, Time time);
 
     Circuit* circuit_;  ///< not owned
-    EventQueue events_;
+    EventDirectory events_;
+    EventQueue queue_{events_};
     std::uint32_t printedRows_ = 0;  ///< of the table being printed
     Time endTime_ = 0;               ///< of the present or last run
     volatile char* abortFlag_ = nullptr;

@@ -7,6 +7,7 @@
 
 #include "Core/Simulation/NetResolver.h"
 #include "Core/Simulation/Port.h"
+#include "Core/Simulation/Wire.h"
 #include "Core/Support/Error.h"
 #include "Core/Support/TLog.h"
 
@@ -37,17 +38,15 @@ public:
     /// Passes the value on until another net has to be updated first, and gives that net; null when all is done. First
     /// come the nets joined by Inouts, then the ports that follow.
     Net* advance() {
-        while (nextJoin_ < net_.ports_.size()) {
-            const Port& port = *net_.ports_[nextJoin_++];
-            if (port.direction() != Direction::Inout) continue;
-            Net* other = net_.otherNet(port);
+        // Asked for anew each time: whoever listens may connect something.
+        while (nextJoin_ < net_.roles().inouts.size()) {
+            Net* other = net_.otherNet(*net_.roles().inouts[nextJoin_++]);
             if (other != nullptr && !isVisited(*other)) return other;
         }
         isFollowing_ = true;
-        while (nextFollower_ < net_.ports_.size()) {
-            Port& port = *net_.ports_[nextFollower_++];
-            if (!net_.isFollower(port)) continue;
-            if (Net* farNet = port.record(value_, time_)) return farNet;
+        while (nextFollower_ < net_.roles().followers.size()) {
+            Port& port = *net_.roles().followers[nextFollower_++];
+            if (Net* farNet = port.follow(value_, time_)) return farNet;
         }
         return nullptr;
     }
@@ -105,8 +104,19 @@ Net::Net(std::uint32_t width) : Net("", width) {}
 Net::Net(const std::string& name, std::uint32_t width) : BaseObject(name), ValueHistory(width) {}
 
 Net::~Net() {
+    cutWire();
     for (Port* port : ports_) letGo(*port);
     for (Port* port : halfRemoved_) letGo(*port);
+}
+
+void Net::joinWire(Wire* wire, const std::shared_ptr<ValueRecords>& records) {
+    wire_ = wire;
+    shareRecords(records);
+    roles_.reset();  // a wire has no use for them
+}
+
+void Net::cutWire() {
+    if (wire_ != nullptr) wire_->cut();
 }
 
 void Net::letGo(Port& port) const {
@@ -130,6 +140,7 @@ void Net::addPort(Port* port, int side) {
         throw Error("The port '%s' has size %d, but is added to net '%s' with size %d.", port->getName().c_str(),
                     port->width(), getName().c_str(), width());
     }
+    portsChange();
     ports_.push_back(port);
     port->setNet(this, side);
 }
@@ -140,6 +151,7 @@ void Net::addPort(Port* port, const PinSpec* spec, int side) {
         throw Error("Port and pin-spec sizes does not match: %d bits in port and %d bits in pin-spec.", port->width(),
                     static_cast<int>(spec->size()));
     }
+    portsChange();
     pinSpecs_[port] = spec;
     ports_.push_back(port);
     port->setNet(this, side);
@@ -151,6 +163,7 @@ void Net::addPort(Port* port, std::int32_t first, std::int32_t last, int side) {
 }
 
 void Net::removePort(Port* port) {
+    portsChange();
     pinSpecs_.erase(port);
     std::erase(ports_, port);
     std::erase(halfRemoved_, port);
@@ -159,12 +172,15 @@ void Net::removePort(Port* port) {
 }
 
 void Net::disconnectAll() {
+    portsChange();
     for (Port* port : ports_) letGo(*port);
     ports_.clear();
     pinSpecs_.clear();
 }
 
 void Net::takeOver(Net& other) {
+    portsChange();
+    other.portsChange();
     for (Port* port : other.ports_) {
         for (const int side : {kInside, kOutside}) {
             if (port->getNet(side) == &other) other.handOver(*port, side, *this);
@@ -175,6 +191,8 @@ void Net::takeOver(Net& other) {
     std::ranges::move(ownedPinSpecs_, std::back_inserter(other.ownedPinSpecs_));  // where they are used, they live
     ownedPinSpecs_.clear();
     other.ports_.clear();
+    rolesChange();
+    other.rolesChange();
 }
 
 void Net::handOver(Port& port, int side, Net& receiver) {
@@ -183,6 +201,7 @@ void Net::handOver(Port& port, int side, Net& receiver) {
         receiver.addPort(&port, side);
     } catch (...) {
         port.setNet(this, side);
+        rolesChange();
         std::erase_if(ports_, [this](const Port* each) {
             return each->getNet(kInside) != this && each->getNet(kOutside) != this;
         });
@@ -200,6 +219,22 @@ const PinSpec* Net::findPinSpec(const Port* port) const {
     if (pinSpecs_.empty()) return nullptr;
     const auto found = pinSpecs_.find(port);
     return found == pinSpecs_.end() ? nullptr : found->second;
+}
+
+const Net::Roles& Net::roles() const {
+    if (!roles_) {
+        auto roles = std::make_unique<Roles>();
+        roles->isPlain = pinSpecs_.empty();
+        for (Port* port : ports_) {
+            const bool isInout = port->direction() == Direction::Inout;
+            if (isInout) roles->inouts.push_back(port);
+            if (!isInout && isDriver(*port)) roles->drivers.push_back(port);
+            if (isFollower(*port)) roles->followers.push_back(port);
+            if (isInout || port->width() != width()) roles->isPlain = false;
+        }
+        roles_ = std::move(roles);
+    }
+    return *roles_;
 }
 
 bool Net::isDriver(const Port& port) const {

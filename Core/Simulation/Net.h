@@ -19,6 +19,7 @@ namespace tarnsim {
 
 class Net;
 class Port;
+class Wire;
 
 /// Nets that a walk has been through already.
 using NetSet = std::set<const Net*>;
@@ -63,6 +64,18 @@ public:
     const PinSpec* findPinSpec(const Port* port) const;
     bool hasPinSpecs() const { return !pinSpecs_.empty(); }
 
+    /// The attached ports by what they do here, each list in order of attachment. Good until a port is attached or
+    /// detached, or its sides or its direction change.
+    struct Roles {
+        std::vector<Port*> drivers;  ///< that aren't Inouts
+        std::vector<Port*> followers;
+        std::vector<Port*> inouts;
+        bool isPlain = false;  ///< no Inouts, no bit ranges, and all ports as wide as the net
+    };
+    const Roles& roles() const;
+    /// For ports: one of these has changed.
+    void rolesChange() { roles_.reset(); }
+
     /// Whether the port drives this net.
     bool isDriver(const Port& port) const;
     /// Whether the port takes on this net's value.
@@ -87,8 +100,24 @@ public:
     /// One line with the names of the ports, through TLog.
     void dump() const;
 
+    // For Wire.
+
+    void joinWire(Wire* wire, const std::shared_ptr<ValueRecords>& records);
+    void leaveWire() { wire_ = nullptr; }
+    Wire* getWire() const { return wire_; }
+
+protected:
+    void leaveSharedRecords() override { cutWire(); }
+
 private:
     class Update;
+
+    void cutWire();
+    /// `ports_` or `pinSpecs_` are about to change.
+    void portsChange() {
+        cutWire();
+        rolesChange();
+    }
 
     void checkSideIsFree(const Port& port, int side) const;
     /// Clears every side on which the port points here.
@@ -100,6 +129,8 @@ private:
     std::vector<Port*> halfRemoved_;  ///< removed, but pointing here by a second side that removePort left alone
     std::unordered_map<const Port*, const PinSpec*> pinSpecs_;  ///< ports attached to a part of the net
     std::vector<std::unique_ptr<PinSpec>> ownedPinSpecs_;       ///< those that this net made itself
+    Wire* wire_ = nullptr;                                      ///< not owned; null while the net isn't part of one
+    mutable std::unique_ptr<const Roles> roles_;                ///< null until they are asked for
     mutable std::uint64_t lastWalk_ = 0;
     const Update* updates_ = nullptr;  ///< what is under way on this net, innermost first
 };

@@ -1,6 +1,7 @@
 #include "Core/Simulation/NetResolver.h"
 
-#include <algorithm>
+#include <array>
+#include <cstdint>
 #include <vector>
 
 #include "Core/Simulation/DriveStatus.h"
@@ -70,18 +71,94 @@ private:
     std::vector<Level> levels_;  ///< innermost last
 };
 
-/// Almost every net is plain: all its drivers are its own and as wide as it is.
-bool isPlain(const Net& net) {
-    const auto isPlainPort = [&](const Port* port) {
-        return port->direction() != Direction::Inout && port->width() == net.width();
-    };
-    return net.width() <= kMaxValueWidth && !net.hasPinSpecs() && std::ranges::all_of(net.getPorts(), isPlainPort);
-}
+/// What the lanes of a net are driven with: for each bit how many drivers aren't at `Z`, and the letter of the last of
+/// them. Eight bits at a time, a byte each, in one machine word.
+class Lanes {
+public:
+    explicit Lanes(std::uint32_t width) : width_(width), words_((width + 7) / 8) {
+        for (std::size_t i = 0; i < words_; ++i) active_[i] = 0;
+    }
+
+    void add(const Port& driver, Time time) {
+        checkDriverCount(++total_);
+        std::array<std::uint64_t, kMostWords> words;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
+        words[words_ - 1] = 0;                        // the bytes behind the last letter
+        driver.lettersAt(time, reinterpret_cast<char*>(words.data()));
+        for (std::size_t i = 0; i < words_; ++i) {
+            const std::uint64_t floating = equalBytes(words[i], kOnes * 'Z');
+            active_[i] += kOnes & ~floating;
+            letters_[i] = (letters_[i] & floating) | (words[i] & ~floating);
+        }
+    }
+
+    Value state() const {
+        std::array<char, 8 * kMostWords> letters;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
+        const auto* active = reinterpret_cast<const std::uint8_t*>(active_.data());
+        const auto* last = reinterpret_cast<const char*>(letters_.data());
+        for (std::size_t i = 0; i < width_; ++i) {
+            letters[i] = active[i] == 0 ? 'Z' : active[i] == 1 && isLevel(last[i]) ? last[i] : kUndefinedBit;
+        }
+        return Value::ofLetters({letters.data(), width_});
+    }
+
+private:
+    static constexpr std::size_t kMostWords = (kMaxValueWidth + 7) / 8;
+    static constexpr std::uint64_t kOnes = 0x0101010101010101;
+
+    /// 0xFF where the bytes of the words are equal, 0 where not.
+    static std::uint64_t equalBytes(std::uint64_t a, std::uint64_t b) {
+        constexpr std::uint64_t kLow = kOnes * 0x7F;
+        const std::uint64_t difference = a ^ b;
+        const std::uint64_t isDifferent = (((difference & kLow) + kLow) | difference) & ~kLow;  // in bit 7
+        return ~((isDifferent >> 7U) * 0xFF);
+    }
+
+    std::uint32_t width_;
+    std::size_t words_;
+    int total_ = 0;
+    // In the order of the letters, the most significant bit first.
+    std::array<std::uint64_t, kMostWords> active_;
+    std::array<std::uint64_t, kMostWords> letters_;
+};
+
+/// The drivers of nets that Inouts join as a whole, bit ranges nowhere: each bit has the same ones.
+class WholeWalk {
+public:
+    /// False if there are bit ranges, or ports of another width, somewhere.
+    static bool addDrivers(const Net& net, Time time, Lanes& lanes) {
+        const CreationNumber walk;
+        net.isNewTo(walk);
+        std::vector<const Net*> open = {&net};
+        while (!open.empty()) {
+            const Net& next = *open.back();
+            open.pop_back();
+            if (next.hasPinSpecs() || next.width() != net.width()) return false;
+            for (const Port* driver : next.roles().drivers) {
+                if (driver->width() != net.width()) return false;
+                lanes.add(*driver, time);
+            }
+            for (const Port* inout : next.roles().inouts) {
+                if (inout->width() != net.width()) return false;
+                if (next.isDriver(*inout)) lanes.add(*inout, time);
+                const Net* other = next.otherNet(*inout);
+                if (other != nullptr && other->isNewTo(walk)) open.push_back(other);
+            }
+        }
+        return true;
+    }
+};
 
 }  // namespace
 
 Value NetResolver::resolve(const Net& net, Time time) {
-    if (isPlain(net)) return resolveDirectDrivers(net, time);
+    if (net.width() > 0 && net.width() <= kMaxValueWidth) {
+        Lanes lanes(net.width());
+        if (net.roles().isPlain) {
+            for (const Port* driver : net.roles().drivers) lanes.add(*driver, time);
+            return lanes.state();
+        }
+        if (WholeWalk::addDrivers(net, time, lanes)) return lanes.state();
+    }
     Value value(net.width());
     for (std::uint32_t i = 0; i < net.width(); ++i) {
         value[i] = BitWalk(net, static_cast<std::int32_t>(i), time).collect().state();

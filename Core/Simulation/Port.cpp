@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "Core/Simulation/Bus.h"
 #include "Core/Simulation/Net.h"
 #include "Core/Support/Error.h"
 #include "Core/Support/TLog.h"
@@ -19,23 +20,81 @@ Port::Port(const Port& other)
       ztr_(other.ztr_) {}
 
 Port::~Port() {
+    cutWire();
     Port::disconnect(kInside);
     Port::disconnect(kOutside);
 }
 
 void Port::set(const Value& value, Time time) {
-    if (Net* farNet = record(value, time)) farNet->update(time);
+    if (drivenWire_ != nullptr && value.width() == width() && drivenWire_->passes(value.letters())) {
+        return drivenWire_->set(value.letters(), time);
+    }
+    const bool isOnBus = drivenBus_ != nullptr && value.width() == width();
+    if (isOnBus && drivenBus_->set(*this, value.letters(), time)) return;
+    Net* net = isOnBus ? farNet() : recordAlone(value, time);
+    if (net != nullptr) net->update(time);
 }
 
-Net* Port::record(const Value& value, Time time) {
+Net* Port::follow(const Value& value, Time time) {
+    if (wire_ != nullptr && wire_->driver() == this && wire_->passes(value.letters())) {
+        wire_->set(value.letters(), time);
+        return nullptr;
+    }
+    return recordAlone(value, time);
+}
+
+Net* Port::recordAlone(const Value& value, Time time) {
+    cutWire();
     ValueHistory::set(value, time);
-    return direction_ == Direction::Output ? outsideNet_ : insideNet_;
+    return farNet();
 }
 
 Value Port::get(Time time) const {
+    if (wireRecords_ != nullptr) {
+        const char* letters = wireRecords_->lettersInForceAt(time);
+        Value value = letters == nullptr ? Value(width()) : Value::ofLetters({letters, width()});
+        return readNet() == nullptr ? value : withoutZ(std::move(value));
+    }
     if (direction_ == Direction::Inout) return withoutZ(readInout(time));
-    const Net* source = direction_ == Direction::Input ? outsideNet_ : insideNet_;
+    const Net* source = readNet();
     return source == nullptr ? recordedValue(time) : withoutZ(readThrough(*source, time));
+}
+
+char Port::readZ() const {
+    return ztr_ && readNet() != nullptr ? kUndefinedBit : 'Z';
+}
+
+void Port::joinWire(Wire* wire, const std::shared_ptr<ValueRecords>& records) {
+    wire_ = wire;
+    // What reads a net drives what it reads there, not what is set.
+    if (wire->driver() == this && readNet() == nullptr) drivenWire_ = wire;
+    shareRecords(records);
+    if (readNet() == nullptr || readNet()->getWire() == wire) wireRecords_ = records.get();
+}
+
+void Port::leaveWire() {
+    wire_ = nullptr;
+    drivenWire_ = nullptr;
+    wireRecords_ = nullptr;
+}
+
+void Port::lettersAt(Time time, char* letters) const {
+    if (wireRecords_ == nullptr && direction_ != Direction::Inout && readNet() == nullptr) {
+        return recordedLetters(time, letters);
+    }
+    const Value value = get(time);
+    value.letters().copy(letters, width());
+}
+
+void Port::rolesChange() {
+    cutWire();
+    if (insideNet_ != nullptr) insideNet_->rolesChange();
+    if (outsideNet_ != nullptr) outsideNet_->rolesChange();
+}
+
+void Port::cutWire() {
+    if (wire_ != nullptr) wire_->cut();
+    if (drivenBus_ != nullptr) drivenBus_->cut();
 }
 
 Value Port::readThrough(const Net& net, Time time) const {
@@ -71,6 +130,7 @@ Direction Port::direction() const {
 }
 
 void Port::setDirection(Direction direction) {
+    rolesChange();
     direction_ = direction;
 }
 
@@ -79,7 +139,9 @@ Net* Port::getNet(int side) const {
 }
 
 void Port::setNet(Net* net, int side) {
+    rolesChange();
     (side == kInside ? insideNet_ : outsideNet_) = net;
+    rolesChange();
 }
 
 void Port::ztrOff() {

@@ -6,12 +6,14 @@
 #include <string>
 #include <vector>
 
+#include "Core/Simulation/Wire.h"
 #include "Core/Support/BaseObject.h"
 #include "Core/Support/Comment.h"
 #include "Core/Values/ValueHistory.h"
 
 namespace tarnsim {
 
+class Bus;
 class Net;
 
 /// A port's direction as its component sees it.
@@ -39,14 +41,17 @@ public:
     /// outside net of an Output, the inside net of an Input or Inout. Returns when everything reached has its value.
     void set(const Value& value, Time time) override;
 
-    /// The first half of `set`: records the value and gives the net on the far side, which has to resolve next; null if
-    /// there is none. For nets, which go through a hierarchy of any depth by themselves.
-    Net* record(const Value& value, Time time);
+    /// The first half of `set`, for the net that this port follows: records its value and gives the net on the far
+    /// side, which has to resolve next; null if there is none. Nets go through a hierarchy of any depth by themselves.
+    Net* follow(const Value& value, Time time);
 
     /// The value as the port's reader sees it: an Input reads its outside net, an Output its inside net, and without
     /// such a net its own records. An Inout between two nets reads `U` unless they agree; with one net it reads that
     /// net, but inside its own records if it has any. Unless ztrOff, a `Z` read through a net or by an Inout is `U`.
     Value get(Time time) const override;
+
+    /// The letters of `get`, as many as the port has bits, without a Value around them.
+    void lettersAt(Time time, char* letters) const;
 
     /// What the drivers of the net on `side` put on it; all `U` where there is no net.
     virtual Value driveValue(Time time, int side) const;
@@ -76,7 +81,37 @@ public:
     /// One line about name and inside net, through TLog.
     void dump() const;
 
+    // For Wire and Bus.
+
+    void joinWire(Wire* wire, const std::shared_ptr<ValueRecords>& records);
+    void leaveWire();
+    void joinBus(Bus* bus) { drivenBus_ = bus; }
+    void leaveBus() { drivenBus_ = nullptr; }
+    Bus* getBus() const { return drivenBus_; }
+    /// Makes a record and does nothing else.
+    void recordLetters(std::string_view letters, Time time) { ownRecords().store(time, letters); }
+    Wire* getWire() const { return wire_; }
+    /// Where reading and setting begin.
+    const void* hotPlace() const { return &drivenWire_; }
+    /// The net that `get` reads; null if it reads the port's own records. Not for Inouts.
+    const Net* readNet() const { return direction_ == Direction::Input ? outsideNet_ : insideNet_; }
+    /// The net that resolves when this port is set; null if there is none.
+    Net* farNet() const { return direction_ == Direction::Output ? outsideNet_ : insideNet_; }
+
+protected:
+    void leaveSharedRecords() override { cutWire(); }
+    /// The wire that takes what is set on this port; null if there is none.
+    Wire* drivenWire() const { return drivenWire_; }
+    /// The records that the port reads, if those are common ones; null if not.
+    const ValueRecords* wireRecords() const { return wireRecords_; }
+    /// What a reader of the port sees where the records have a `Z`.
+    char readZ() const;
+
 private:
+    void cutWire();
+    /// What this port is to its nets is about to change, or has changed.
+    void rolesChange();
+    Net* recordAlone(const Value& value, Time time);
     Value readThrough(const Net& net, Time time) const;
     Value readInout(Time time) const;
     Value withoutZ(Value value) const;
@@ -85,6 +120,10 @@ private:
     Net* outsideNet_ = nullptr;  ///< not owned
     Net* insideNet_ = nullptr;   ///< not owned
     bool ztr_ = true;
+    Wire* drivenWire_ = nullptr;                 ///< not owned
+    Wire* wire_ = nullptr;                       ///< not owned; null while the port isn't part of one
+    const ValueRecords* wireRecords_ = nullptr;  ///< not owned
+    Bus* drivenBus_ = nullptr;                   ///< not owned
 };
 
 /// A port of one bit.
@@ -94,8 +133,16 @@ public:
     Pin(const Pin& other) = default;
 
     /// The letter that the pin reads at `time`.
-    char level(Time time) const { return get(time); }
-    void setLevel(char letter, Time time) { set(Value(letter, 1), time); }
+    char level(Time time) const {
+        if (wireRecords() == nullptr) return get(time);
+        const char letter = wireRecords()->letterInForceAt(time, kUndefinedBit);
+        return letter == 'Z' ? readZ() : letter;
+    }
+    void setLevel(char letter, Time time) {
+        Wire* wire = drivenWire();
+        if (wire != nullptr && wire->passes(letter)) return wire->setLetter(letter, time);
+        set(Value(letter, 1), time);
+    }
 
     /// Sets `count` periods of a square wave from `start` on, each low first and high from its middle. Times in ns.
     void pulse(Time period, int count, Time start);

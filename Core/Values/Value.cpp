@@ -51,6 +51,12 @@ Value::Value(std::string_view text, std::uint32_t width) {
     assignText(text);
 }
 
+Value::Value(std::string_view letters, AsTheyStand /*unused*/) : width_(static_cast<std::uint8_t>(letters.size())) {
+    if (width_ > kInlineWidth) heapBits_ = std::make_unique_for_overwrite<char[]>(width_ + std::size_t{1});
+    if (width_ > 0) std::memcpy(bits(), letters.data(), width_);
+    bits()[width_] = '\0';
+}
+
 Value::Value(const Value& other) : inlineBits_(other.inlineBits_), width_(other.width_) {
     if (!other.heapBits_) return;
     heapBits_ = std::make_unique_for_overwrite<char[]>(width_ + std::size_t{1});

@@ -32,10 +32,10 @@ constexpr bool isLevel(char bit) {
 ///   Z  not driven                X  in an expected value a wild card, else undefined
 ///
 /// The letters are a NUL-terminated text, most significant bit first, so bit `i` stands at position `width - 1 - i`,
-/// and a value prints as it is. Letters aren't checked: whatever a text holds is stored. Up to 8 bits live inside the
-/// object, so the values of gates and byte buses never touch the heap. A value of width 0 holds nothing yet and takes
-/// the width of the first thing assigned to it; after that only `resize` changes the width. Widths of longer texts wrap
-/// modulo 256.
+/// and a value prints as it is. Letters aren't checked: whatever a text holds is stored. Up to 22 bits live inside the
+/// object, so the values of gates, byte and address buses never touch the heap. A value of width 0 holds nothing yet
+/// and takes the width of the first thing assigned to it; after that only `resize` changes the width. Widths of longer
+/// texts wrap modulo 256.
 ///
 /// Raises standard exceptions, not Error: std::length_error, std::out_of_range, std::domain_error, std::bad_cast.
 /// A failed assignment leaves the letters as they were.
@@ -48,6 +48,9 @@ public:
     /// `text` at the right end, padded on the left with `L`, or with `U` if it holds an undefined letter. A width of 0
     /// stands for the text's length. Raises std::length_error if the text is longer than the width.
     explicit Value(std::string_view text, std::uint32_t width = 0);
+
+    /// `letters` as they stand, and as many bits.
+    static Value ofLetters(std::string_view letters) { return Value(letters, AsTheyStand()); }
 
     virtual ~Value() = default;
     Value(const Value& other);
@@ -125,13 +128,16 @@ public:
     static std::string bitsToHex(std::string_view text, bool grouped);
 
 private:
-    static constexpr std::uint32_t kInlineWidth = 8;
+    static constexpr std::uint32_t kInlineWidth = 22;
+
+    struct AsTheyStand {};
+    Value(std::string_view letters, AsTheyStand /*unused*/);
 
     char* bits() { return heapBits_ ? heapBits_.get() : inlineBits_.data(); }
     const char& bitAt(std::size_t i) const;
     void assignText(std::string_view text);
 
-    std::unique_ptr<char[]> heapBits_;  ///< width + 1 characters if the width is above 8, else null
+    std::unique_ptr<char[]> heapBits_;  ///< width + 1 characters if the width is above kInlineWidth, else null
     std::array<char, kInlineWidth + 1> inlineBits_{};
     std::uint8_t width_ = 0;
 };

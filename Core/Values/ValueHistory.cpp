@@ -1,6 +1,7 @@
 #include "Core/Values/ValueHistory.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "Core/Support/Error.h"
 
@@ -9,20 +10,46 @@ namespace tarnsim {
 ValueHistory::ValueHistory(std::uint32_t width) : width_(width) {}
 
 void ValueHistory::set(const Value& value, Time time) {
-    if (width_ == 0 && records_.empty()) width_ = value.width();
+    if (width_ == 0 && recordCount() == 0) width_ = value.width();
     if (value.width() != width_) {
         // The value's width comes first, against the order of the words.
         throw Error("ValueHistory: mismatching type width. ValueHistory width=%d, but value width=%d", value.width(),
                     width_);
     }
-    if (!subscribers_.empty()) {
-        const Value old = recordedValue(time);
-        if (old != value) {
-            const ValueChange change{old, value, time};
-            for (ValueChangeSubscriber* subscriber : subscribers_) subscriber->valueChanged(this, change);
-        }
+    if (!subscribers_.empty() && differsFromRecords(value, time)) {
+        const ValueChange change{recordedValue(time), value, time};
+        for (ValueChangeSubscriber* subscriber : subscribers_) subscriber->valueChanged(this, change);
     }
-    records_.store(time, value.letters());
+    ownRecords().store(time, value.letters());
+}
+
+bool ValueHistory::differsFromRecords(const Value& value, Time time) const {
+    const char* recorded = records_ ? records_->lettersInForceAt(time) : nullptr;
+    return recorded == nullptr ? !value.isAllUndefined() : value.letters() != std::string_view(recorded, width_);
+}
+
+void ValueHistory::recordedLetters(Time time, char* letters) const {
+    const char* recorded = records_ ? records_->lettersInForceAt(time) : nullptr;
+    if (recorded == nullptr) {
+        std::fill_n(letters, width_, kUndefinedBit);
+    } else {
+        std::copy_n(recorded, width_, letters);
+    }
+}
+
+ValueRecords& ValueHistory::ownRecords() {
+    if (areRecordsShared()) leaveSharedRecords();
+    if (!records_) {
+        records_ = std::make_shared<ValueRecords>();
+    } else if (areRecordsShared()) {
+        records_ = std::make_shared<ValueRecords>(*records_);
+    }
+    return *records_;
+}
+
+void ValueHistory::clear() {
+    leaveSharedRecords();
+    records_.reset();
 }
 
 Value ValueHistory::get(Time time) const {
@@ -30,7 +57,7 @@ Value ValueHistory::get(Time time) const {
 }
 
 Value ValueHistory::recordedValue(Time time) const {
-    const auto record = records_.inForceAt(time);
+    const auto record = records_ ? records_->inForceAt(time) : std::nullopt;
     return record ? valueOfRecord(*record) : Value(width_);
 }
 
@@ -43,12 +70,14 @@ std::int32_t ValueHistory::maxNumber() const {
 }
 
 void ValueHistory::subscribe(ValueChangeSubscriber* subscriber) {
+    leaveSharedRecords();
     const auto place = std::ranges::lower_bound(subscribers_, subscriber->subscriptionOrder(), {},
                                                 &ValueChangeSubscriber::subscriptionOrder);
     if (place == subscribers_.end() || *place != subscriber) subscribers_.insert(place, subscriber);
 }
 
 void ValueHistory::unsubscribe(ValueChangeSubscriber* subscriber) {
+    leaveSharedRecords();
     std::erase(subscribers_, subscriber);
 }
 
@@ -75,22 +104,23 @@ bool ValueHistory::stableBetween(Time t1, Time t2) const {
 bool ValueHistory::stableAt(Time t1, Time t2, const Value& value) const {
     const auto [first, last] = std::minmax(t1, t2);
     if (recordedValue(first) != value) return false;
-    for (std::size_t i = records_.firstFrom(first); i < records_.size() && records_.timeOf(i) <= last; ++i) {
+    if (!records_) return true;
+    for (std::size_t i = records_->firstFrom(first); i < records_->size() && records_->timeOf(i) <= last; ++i) {
         if (valueOfRecord(i) != value) return false;
     }
     return true;
 }
 
 Time ValueHistory::lastChange(Time time) const {
-    const auto inForce = records_.inForceAt(time);
+    const auto inForce = records_ ? records_->inForceAt(time) : std::nullopt;
     if (!inForce) return kEarliestTime;
-    const std::string_view current = records_.lettersOf(*inForce);
+    const std::string_view current = records_->lettersOf(*inForce);
     std::size_t began = *inForce;
-    while (began > 0 && records_.lettersOf(began - 1) == current) --began;
+    while (began > 0 && records_->lettersOf(began - 1) == current) --began;
     // Before the first record lies U, so a signal that began with U never changed.
     const bool beganUndefined = current.find_first_not_of(kUndefinedBit) == std::string_view::npos;
     if (began == 0 && beganUndefined) return kEarliestTime;
-    return records_.timeOf(began);
+    return records_->timeOf(began);
 }
 
 }  // namespace tarnsim

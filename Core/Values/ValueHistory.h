@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 #include "Core/Support/CreationNumber.h"
@@ -44,6 +45,9 @@ private:
 ///
 /// A width of 0 means not yet known; the first value set decides it. Subscribers aren't owned and must unsubscribe
 /// before they die.
+///
+/// Histories that are always set together can have their records in common (`shareRecords`); one that is then set or
+/// cleared by itself goes on with records of its own. Nobody who reads can tell.
 class ValueHistory {
 public:
     explicit ValueHistory(std::uint32_t width);
@@ -61,14 +65,15 @@ public:
     /// In bits; 0 if not yet known.
     virtual std::uint32_t width() const { return width_; }
 
-    std::size_t recordCount() const { return records_.size(); }
+    std::size_t recordCount() const { return records_ ? records_->size() : 0; }
     /// The largest number of the width, (1 << width) - 1 in signed 32 bits.
     std::int32_t maxNumber() const;
     /// Forgets all records. Width and subscribers stay.
-    void clear() { records_.clear(); }
+    void clear();
 
     void subscribe(ValueChangeSubscriber* subscriber);
     void unsubscribe(ValueChangeSubscriber* subscriber);
+    const std::vector<ValueChangeSubscriber*>& subscribers() const { return subscribers_; }
 
     // The queries read this history's own records, whatever a derived class answers to get.
 
@@ -90,19 +95,29 @@ public:
 protected:
     /// The value that the records hold at `time`.
     Value recordedValue(Time time) const;
+    /// Its letters, as many as `width()`.
+    void recordedLetters(Time time, char* letters) const;
     /// Decides a width that isn't known yet.
     void adoptWidth(std::uint32_t width) {
         if (width_ == 0) width_ = width;
     }
+    /// From now on these are the records of this history.
+    void shareRecords(std::shared_ptr<ValueRecords> records) { records_ = std::move(records); }
+    /// Something happens to this history alone: whoever writes it together with others has to stop.
+    virtual void leaveSharedRecords() {}
+    /// Records that nobody else has.
+    ValueRecords& ownRecords();
 
 private:
-    Value valueOfRecord(std::size_t i) const { return Value(records_.lettersOf(i), width_); }
+    bool differsFromRecords(const Value& value, Time time) const;
+    bool areRecordsShared() const { return records_ && records_.use_count() > 1; }
+    Value valueOfRecord(std::size_t i) const { return Value::ofLetters(records_->lettersOf(i)); }
     /// 1 ns earlier.
     Value valueBefore(Time time) const;
     bool isOneBitEdge(Time time, char before, char after) const;
 
     std::uint32_t width_;
-    ValueRecords records_;
+    std::shared_ptr<ValueRecords> records_;            ///< null until there is one
     std::vector<ValueChangeSubscriber*> subscribers_;  ///< not owned, ascending by subscriptionOrder
 };
 

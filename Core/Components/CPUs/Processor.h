@@ -64,6 +64,7 @@ public:
     void inputChanged(Port* port, const Value& /*oldValue*/, const Value& /*newValue*/, Time time) override {
         scheduleTagged(this, port->getCreationNumber(), time);
     }
+    Response responseTo(const Port& port) const override { return {Response::Kind::Event, port.getCreationNumber()}; }
     void applyParameters() override {
         readTime("t_ads", t_ads);
         readTime("t_ah", t_ah);

@@ -222,7 +222,7 @@ TEST(Component, SubscribersHearInOrderOfCreationWhereverTheyLieInMemory) {
         slots[creation[0]].emplace("first", told);
         slots[creation[1]].emplace("second", told);
         slots[creation[2]].emplace("third", told);
-        for (const std::size_t i : {1, 0, 2}) slots[creation[i]]->addPort(&port);
+        for (const std::size_t i : {1U, 0U, 2U}) slots[creation[i]]->addPort(&port);
         port.set(Value("H"), 0);
         EXPECT_EQ(told, (Journal{"first", "second", "third"}));
     }

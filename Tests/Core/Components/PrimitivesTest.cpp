@@ -234,8 +234,9 @@ TEST_F(Demultiplexers, AreUndefinedAtAnyUndefinedSelectBit) {
 TEST_F(Demultiplexers, CannotCountWithSelectBitsThatFloatOrAreWildCards) {
     const std::map<std::string, char> firstBad = {{"ZL", 'Z'}, {"HZ", 'Z'}, {"ZZ", 'Z'}, {"XH", 'X'},
                                                   {"LX", 'X'}, {"XZ", 'X'}, {"ZX", 'Z'}};
-    for (const auto& [select, letter] : firstBad) {
-        const std::string message = std::string("Cannot interpret '") + letter + "' as a binary digit.";
+    for (const auto& each : firstBad) {
+        const std::string& select = each.first;
+        const std::string message = std::string("Cannot interpret '") + each.second + "' as a binary digit.";
         EXPECT_EQ(standardExceptionOf<std::domain_error>([&] { withBuses.step("x=L S=" + select, "Y"); }), message);
         EXPECT_EQ(standardExceptionOf<std::domain_error>(
                       [&] { withPins.step("x=L s1=" + select.substr(0, 1) + " s0=" + select.substr(1), "y0"); }),

@@ -57,10 +57,11 @@ TEST(ParaMap, RefusesAnEmptyFieldAndKeepsThePairsInFrontOfIt) {
                                                    {"(,a=1)", {}},
                                                    {"(,)", {}},
                                                    {"(a,b,,)", {{"a", ""}, {"b", ""}}}};
-    for (const auto& [text, pairs] : cases) {
+    for (const auto& each : cases) {
+        const std::string& text = each.first;
         ParaMap map;
         EXPECT_EQ(errorOf([&] { map.parse(text); }), "Parameters malformed: '" + text + "'");
-        EXPECT_EQ(map.map(), pairs) << text;
+        EXPECT_EQ(map.map(), each.second) << text;
     }
 }
 

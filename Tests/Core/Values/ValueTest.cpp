@@ -141,7 +141,7 @@ TEST(Value, MirrorsAcrossTheInlineWidth) {
 }
 
 TEST(Value, MayBeAssignedToItself) {
-    for (const char* letters : {"HLZ", "HLZHLZHLZHLZ"}) {
+    for (const char* letters : {"HLZ", "HLZHLZHLZHLZHLZHLZHLZHLZHLZHLZ"}) {
         Value value(letters);
         const Value& self = value;
         value = self;
@@ -186,7 +186,7 @@ TEST(Value, FillsEveryBit) {
 
 TEST(Value, ForgetsEveryBitWhenItIsResized) {
     Value value("HLH");
-    for (const std::uint32_t width : {4U, 20U, 9U, 8U, 0U, 3U}) {
+    for (const std::uint32_t width : {4U, 200U, 90U, 8U, 0U, 3U}) {
         value.resize(width);
         EXPECT_EQ(value.width(), width);
         EXPECT_STREQ(value.c_str(), std::string(width, 'U').c_str());
@@ -226,18 +226,21 @@ TEST(Value, IsPrintedAsItsLetters) {
     EXPECT_EQ(stream.str(), "HLUZX HLUZXHLUZX ");
 }
 
-TEST(Value, LivesOnTheHeapAbove8BitsAndPrintsAlike) {
-    const Value eight("HLUZXHLU");
-    const Value nine("HLUZXHLUZ");
-    EXPECT_TRUE(isInline(eight));
-    EXPECT_FALSE(isInline(nine));
-    EXPECT_STREQ(eight.c_str(), "HLUZXHLU");
-    EXPECT_STREQ(nine.c_str(), "HLUZXHLUZ");
-    EXPECT_EQ(std::strlen(nine.c_str()), nine.width());
+TEST(Value, NeedsTheHeapForWideBusesOnlyAndPrintsAlike) {
+    const Value byte("HLUZXHLU");
+    const Value address("HLUZXHLUZXHLUZXH");
+    const std::string letters(40, 'H');
+    const Value wide(letters);
+    EXPECT_TRUE(isInline(byte));
+    EXPECT_TRUE(isInline(address));
+    EXPECT_FALSE(isInline(wide));
+    EXPECT_STREQ(byte.c_str(), "HLUZXHLU");
+    EXPECT_STREQ(wide.c_str(), letters.c_str());
+    EXPECT_EQ(std::strlen(wide.c_str()), wide.width());
 }
 
 TEST(Value, IsCopiedDeeply) {
-    for (const char* letters : {"HLZ", "HLZHLZHLZHLZ"}) {
+    for (const char* letters : {"HLZ", "HLZHLZHLZHLZHLZHLZHLZHLZHLZHLZ"}) {
         Value value(letters);
         const Value copy(value);
         EXPECT_EQ(isInline(copy), isInline(value));
@@ -248,7 +251,7 @@ TEST(Value, IsCopiedDeeply) {
 }
 
 TEST(Value, MovesItsLetters) {
-    for (const char* letters : {"HLZ", "HLZHLZHLZHLZ"}) {
+    for (const char* letters : {"HLZ", "HLZHLZHLZHLZHLZHLZHLZHLZHLZHLZ"}) {
         Value value(letters);
         const Value moved(std::move(value));
         EXPECT_STREQ(moved.c_str(), letters);

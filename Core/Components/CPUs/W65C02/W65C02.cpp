@@ -9,7 +9,8 @@ W65C02::W65C02(const std::string& name, const ParaMap& parameters) : Processor(n
 
 void W65C02::applyParameters() {
     Processor::applyParameters();
-    readTime("t_bvd", t_bvd);
+    getParameters().get("t_bvd", &t_bvd);
+    responsesChange();
 }
 
 void W65C02::reset() {
@@ -18,8 +19,16 @@ void W65C02::reset() {
 }
 
 void W65C02::inputChanged(Port* port, const Value& /*oldValue*/, const Value& /*newValue*/, Time time) {
-    const std::int64_t due = std::int64_t{time} + (port == &BE ? t_bvd : 0);
+    const std::int64_t due = later(time, port == &BE ? t_bvd : 0);
     if (due <= kLatestTime) scheduleTagged(this, port->getCreationNumber(), static_cast<Time>(due));
+}
+
+Response W65C02::responseTo(const Port& port) const {
+    // A pin that is refreshed is written besides its net, so it can't have its records in common with that.
+    for (const Pin* refreshed : {&IRQ, &NMI, &RDY, &PHI0, &SO}) {
+        if (&port == refreshed) return {};
+    }
+    return {Response::Kind::Event, port.getCreationNumber(), &port == &BE ? t_bvd : 0};
 }
 
 void W65C02::evaluateTagged(Time time, std::uint64_t tag) {
@@ -73,7 +82,7 @@ void W65C02::copy(Port& pin, const Port& signal, Time time, Time delay) {
 }
 
 void W65C02::finish(Time time) {
-    if (BE.level(earlier(time, static_cast<std::uint32_t>(t_bvd))) == 'H') {
+    if (BE.level(earlier(time, t_bvd)) == 'H') {
         copy(A, internalAddress, time, t_ah);
         copy(A, internalAddress, time, t_ads);
         copy(d_write, internalData, time, t_dhw);
@@ -88,7 +97,7 @@ void W65C02::finish(Time time) {
 
 /// For the flank of `BE` whose time to show has come.
 void W65C02::switchBus(Time time) {
-    switch (BE.level(earlier(time, static_cast<std::uint32_t>(t_bvd)))) {
+    switch (BE.level(earlier(time, t_bvd))) {
         case 'H':
             A.set(internalAddress.get(time), time);
             d_write.set(internalData.get(time), time);

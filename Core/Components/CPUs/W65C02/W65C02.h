@@ -24,6 +24,7 @@ public:
     void evaluateTagged(Time time, std::uint64_t tag) override;
     /// A change of `BE` is looked at when it shows.
     void inputChanged(Port* port, const Value& oldValue, const Value& newValue, Time time) override;
+    Response responseTo(const Port& port) const override;
     void applyParameters() override;
 
 private:
@@ -40,7 +41,7 @@ private:
     Port& internalAddress = internalSignal(16);
     Port& internalData = internalSignal(8);
     Port& internalReadWrite = internalSignal(1);
-    Time t_bvd = 0;
+    std::uint32_t t_bvd = 0;  ///< ns
 };
 
 }  // namespace tarnsim

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "Core/Simulation/Wire.h"
+#include "Core/Values/Time.h"
+
+namespace tarnsim {
+
+class Port;
+
+/// A net with several drivers, each with a past of its own, and what follows it: that is one wire, which shows what the
+/// drivers come to.
+///
+/// It counts for each bit how many drivers are active, and so needs to look at none but the one that is set: a bus with
+/// many buffers costs no more than one with two. Only a value for a time before the latest makes it look at all.
+///
+/// As a Wire, it lasts until something happens to one of its signals alone.
+class Bus {
+public:
+    /// None of these is owned; all must live as long as the bus is whole. The drivers have no records, read no net and
+    /// are as wide as the wire.
+    Bus(Wire& wire, std::span<Port* const> drivers);
+    ~Bus() { cut(); }
+    Bus(const Bus&) = delete;
+    Bus& operator=(const Bus&) = delete;
+
+    /// Begins: the drivers know of the bus from now on.
+    void join();
+    /// Records what the driver shows, and what the net makes of it. False if the net has to see to that itself, since
+    /// it comes to a `Z` that gets no further than the next port: the bus has been cut then. REQUIRES: `driver` is one
+    /// of the drivers and `letters` are as many as it has bits
+    bool set(Port& driver, std::string_view letters, Time time);
+    /// Lets go of all signals, those of the wire too.
+    void cut();
+
+private:
+    /// Counts anew what the drivers show at `time`.
+    void count(Time time);
+    void add(const char* letters, bool isAdded);
+    bool show(Time time);
+    std::string_view state();
+
+    Wire& wire_;
+    std::span<Port* const> drivers_;
+    std::size_t width_;
+    Time latest_ = kEarliestTime;  ///< of all that was set
+    // For each bit, in the order of the letters:
+    std::vector<std::uint8_t> active_;  ///< how many drivers aren't at `Z`
+    std::vector<char> letters_;         ///< their letters, combined by exclusive or: of one driver, its letter
+    std::vector<char> state_;
+    std::vector<char> former_;  ///< what the driver that is being set had before
+};
+
+}  // namespace tarnsim

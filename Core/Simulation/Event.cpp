@@ -1,0 +1,37 @@
+#include "Core/Simulation/Event.h"
+
+#include <functional>
+
+#include "Core/Components/Component.h"
+
+namespace tarnsim {
+
+std::size_t EventDirectory::Hash::operator()(const Event& event) const noexcept {
+    return std::hash<Component*>{}(event.target) * 31 + std::hash<std::uint64_t>{}(event.tag);
+}
+
+EventNumber EventDirectory::numberOf(const Event& event) {
+    const auto next = static_cast<EventNumber>(entries_.size());
+    EventNumber& known = event.tag == 0 ? event.target->plainEvent() : tagged_.try_emplace(event, next).first->second;
+    // A target remembers its number from other runs, too.
+    if (known < next && entries_[known].event == event) return known;
+    known = next;
+    entries_.push_back({event});
+    targetCreations_.push_back(event.target->getCreationNumber());
+    if (next > 0 && !comesBefore(next - 1, next)) isInOrder_ = false;
+    return next;
+}
+
+void EventDirectory::setTouched(EventNumber number, std::span<const void* const> places) {
+    if (touched_.size() <= number) touched_.resize(number + std::size_t{1});
+    const auto begin = static_cast<std::uint32_t>(places_.size());
+    places_.insert(places_.end(), places.begin(), places.end());
+    touched_[number] = {begin, static_cast<std::uint32_t>(places_.size())};
+}
+
+bool EventDirectory::comesBefore(EventNumber a, EventNumber b) const {
+    if (targetCreations_[a] != targetCreations_[b]) return targetCreations_[a] < targetCreations_[b];
+    return entries_[a].event.tag < entries_[b].event.tag;
+}
+
+}  // namespace tarnsim

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <cstdint>
+#include <limits>
+#include <span>
+#include <unordered_map>
+#include <vector>
+
+#include "Core/Values/Time.h"
+
+namespace tarnsim {
+
+class Component;
+
+/// That a component is to be called. Two words: no value travels with an event.
+struct Event {
+    Component* target;  ///< not owned
+    std::uint64_t tag;  ///< 0 for a plain event
+
+    bool operator==(const Event&) const = default;
+};
+
+/// An event within a run, by its number in the run's EventDirectory.
+using EventNumber = std::uint32_t;
+
+/// All events that a run has met, by number; a directory serves one queue. A run deals in numbers: they take half the
+/// place of a pointer, and a few of them are sorted by setting bits.
+class EventDirectory {
+public:
+    /// The number of the event, a new one if need be.
+    EventNumber numberOf(const Event& event);
+    const Event& operator[](EventNumber number) const { return entries_[number].event; }
+    std::size_t size() const { return entries_.size(); }
+
+    /// Whether `a` comes before `b`: by the order in which the targets were created, then by tag. That order carries no
+    /// meaning; it's there so that the same design runs in the same way every time.
+    bool comesBefore(EventNumber a, EventNumber b) const;
+    /// All numbers ascend as their events do.
+    bool isInOrder() const { return isInOrder_; }
+
+    /// Notes that the event is entered for `time`. False if that was the last thing that was noted of it: parts with
+    /// several inputs are mostly entered in a row.
+    bool note(EventNumber number, Time time) {
+        Entry& entry = entries_[number];
+        if (entry.lastTime == time) return false;
+        entry.lastTime = time;
+        return true;
+    }
+
+    /// Notes what is touched when the event is called, to be fetched shortly before. Just hints: nothing is read.
+    void setTouched(EventNumber number, std::span<const void* const> places);
+    /// The event is called soon.
+    void prefetch(EventNumber number) const {
+        if (number >= touched_.size()) return;
+        const Extent& extent = touched_[number];
+        for (std::uint32_t i = extent.begin; i < extent.end; ++i) __builtin_prefetch(places_[i]);
+    }
+
+private:
+    struct Hash {
+        std::size_t operator()(const Event& event) const noexcept;
+    };
+    struct Entry {
+        Event event;
+        std::int64_t lastTime = std::numeric_limits<std::int64_t>::min();
+    };
+
+    struct Extent {
+        std::uint32_t begin = 0;
+        std::uint32_t end = 0;
+    };
+
+    std::vector<Entry> entries_;
+    std::vector<std::uint64_t> targetCreations_;           ///< kept here, since targets may die before the run
+    std::unordered_map<Event, EventNumber, Hash> tagged_;  ///< a plain one is known to its target
+    std::vector<Extent> touched_;                          ///< by number, in `places_`
+    std::vector<const void*> places_;
+    bool isInOrder_ = true;
+};
+
+}  // namespace tarnsim

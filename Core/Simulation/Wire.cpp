@@ -1,0 +1,43 @@
+#include "Core/Simulation/Wire.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "Core/Simulation/Bus.h"
+#include "Core/Simulation/Net.h"
+#include "Core/Simulation/Port.h"
+
+namespace tarnsim {
+
+Wire::Wire(EventSimulator& simulator, const Members& members)
+    : simulator_(simulator),
+      members_(members),
+      passesZ_(members.nets.size() <= 1 && (members.driver == nullptr || members.driver->readNet() == nullptr)) {}
+
+void Wire::join(const std::shared_ptr<void>& owner) {
+    const std::shared_ptr<ValueRecords> records(owner, &records_);
+    // The nets first: a port asks its net whether it is on this wire, too.
+    for (Net* net : members_.nets) net->joinWire(this, records);
+    for (Port* port : members_.ports) port->joinWire(this, records);
+}
+
+bool Wire::passes(std::string_view letters) const {
+    return std::ranges::all_of(letters, [this](char letter) { return passes(letter); });
+}
+
+void Wire::set(std::string_view letters, Time time) {
+    const char* before = records_.lettersInForceAt(time);
+    const bool isChange = before == nullptr ? letters.find_first_not_of(kUndefinedBit) != std::string_view::npos
+                                            : letters != std::string_view(before, letters.size());
+    records_.store(time, letters);
+    if (isChange) notify(time);
+}
+
+void Wire::cut() {
+    if (Bus* bus = std::exchange(bus_, nullptr)) return bus->cut();
+    for (Port* port : members_.ports) port->leaveWire();
+    for (Net* net : members_.nets) net->leaveWire();
+    members_ = {};
+}
+
+}  // namespace tarnsim

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+
+#include "Core/Simulation/Event.h"
+#include "Core/Simulation/EventSimulator.h"
+#include "Core/Values/Time.h"
+#include "Core/Values/ValueRecords.h"
+
+namespace tarnsim {
+
+class Bus;
+class Net;
+class Port;
+
+/// Signals that are always the same: a driver that is alone on its net, that net, the ports that follow it, and so on
+/// through the levels of the hierarchy. They have one past in common instead of one each, and to set the driver is to
+/// enter one record and the events of whoever listens.
+///
+/// That's most signals of most boards. A net with several drivers, Inouts or bit ranges isn't part of one, and neither
+/// is a signal on which somebody listens who does more than enter an event. So nobody is called while a wire is being
+/// set, and that all its signals change at once can't be told from their changing one after the other.
+///
+/// A wire lasts until something happens to one of its signals alone: it is connected elsewhere, written besides its
+/// driver, cleared. Then it is cut: the signals keep their past and go on one by one.
+///
+/// What a setting touches stands in two cache lines beside each other.
+class alignas(128) Wire {
+public:
+    /// Somebody who listens: an event `delay` ns after a change.
+    struct Listener {
+        std::uint32_t delay;
+        EventNumber event;
+    };
+    /// None of these is owned; all must live as long as the wire is whole.
+    struct Members {
+        Port* driver;  ///< one of the ports; null for the wire of a Bus
+        std::span<const Listener> listeners;
+        std::span<Port* const> ports;
+        std::span<Net* const> nets;
+    };
+
+    Wire(EventSimulator& simulator, const Members& members);
+    ~Wire() { cut(); }
+    Wire(const Wire&) = delete;
+    Wire& operator=(const Wire&) = delete;
+
+    /// Begins: all signals have these records from now on. They live as long as one of the signals has them, and so
+    /// does `owner`.
+    void join(const std::shared_ptr<void>& owner);
+
+    const Port* driver() const { return members_.driver; }
+    /// What drives the wire instead of a driver. Ends with it.
+    void joinBus(Bus* bus) { bus_ = bus; }
+    /// Whether all signals show a letter of the driver as it is. A `Z` doesn't get through ports to further levels, and
+    /// a net makes `U` of what is no letter that it knows.
+    bool passes(char letter) const {
+        return letter == 'L' || letter == 'H' || letter == kUndefinedBit || (letter == 'Z' && passesZ_);
+    }
+    bool passes(std::string_view letters) const;
+
+    // REQUIRES: as many letters as the signals have bits, and all of them pass
+
+    void set(std::string_view letters, Time time);
+    void setLetter(char letter, Time time) {
+        const bool isChange = records_.letterInForceAt(time, kUndefinedBit) != letter;
+        records_.storeLetter(time, letter);
+        if (isChange) notify(time);
+    }
+
+    /// Lets go of all signals.
+    void cut();
+
+    /// The second cache line.
+    const void* listenersPlace() const { return &simulator_; }
+
+private:
+    void notify(Time time) {
+        for (const Listener& listener : members_.listeners) {
+            const std::int64_t due = later(time, listener.delay);
+            if (due <= kLatestTime) simulator_.schedule(listener.event, static_cast<Time>(due));
+        }
+    }
+
+    ValueRecords records_;
+    EventSimulator& simulator_;
+    Members members_;
+    Bus* bus_ = nullptr;  ///< not owned
+    bool passesZ_;
+};
+
+}  // namespace tarnsim

@@ -1,0 +1,418 @@
+#include "Core/Circuit/Wiring.h"
+
+#include <algorithm>
+#include <map>
+
+#include "Core/Simulation/EventSimulator.h"
+#include "Core/Simulation/Wire.h"
+#include "Tests/Core/Circuit/CircuitTestSupport.h"
+#include "Tests/Support/RandomCircuit.h"
+#include "Tests/Support/RandomRun.h"
+#include "Tests/Support/RandomSignals.h"
+
+namespace tarnsim {
+namespace {
+
+/// On a signal with such a listener there is no wire: somebody has to be called.
+class Listener : public ValueChangeSubscriber {
+public:
+    void valueChanged(ValueHistory* /*history*/, const ValueChange& change) override { changes.push_back(change.time); }
+
+    std::vector<Time> changes;
+};
+
+/// Calls `visit` for each port and net of the circuit and of what is in it, in the same order always.
+void visitSignals(const Circuit& circuit, const std::function<void(ValueHistory&)>& visit) {
+    for (Port* port : circuit.getPorts()) visit(*port);
+    for (Net* net : circuit.getNets()) visit(*net);
+    for (Component* unit : circuit.getComponents()) {
+        if (const auto* inner = dynamic_cast<const Circuit*>(unit)) {
+            visitSignals(*inner, visit);
+        } else {
+            for (Port* port : unit->getPorts()) visit(*port);
+        }
+    }
+    for (const Circuit* declaration : circuit.getDeclarations()) visitSignals(*declaration, visit);
+}
+
+/// All that can be read of a signal up to `end`.
+std::string everythingOf(const ValueHistory& history, Time end) {
+    std::string text = format("%zu records, last %d:", history.recordCount(), history.lastChange(end));
+    for (Time time = -1; time <= end; ++time) {
+        if (!history.changedAt(time) && time % 50 != 0) continue;
+        text += format(" %d %s", time, history.get(time).c_str());
+        if (history.risingEdgeAt(time)) text += "+";
+        if (history.fallingEdgeAt(time)) text += "-";
+    }
+    return text;
+}
+
+/// A board of all kinds of parts, with hierarchy, runs with wires and without, and every history is compared.
+TEST(Wiring, NobodyCanTellWiredSignalsFromOthers) {
+    constexpr Time kEnd = 700;
+    int runs = 0;
+    for (std::uint32_t seed = 1; seed <= 60; ++seed) {
+        SCOPED_TRACE(format("seed %u", seed));
+        const Workplace here;
+        RandomChoices choices(seed);
+        RandomCircuitStyle style;
+        style.saveable = false;
+        const RandomCircuit random = makeRandomCircuit(choices, style);
+        random.writeTo(".");
+        here.write("test.sig", makeRandomSignals(choices, random).text);
+
+        Listener listener;
+        std::map<bool, std::vector<std::string>> histories;
+        std::map<bool, RandomRun> results;
+        for (const bool isWired : {true, false}) {
+            std::unique_ptr<Circuit> circuit;
+            streamsOf([&] { circuit = CircuitFileReader().load(RandomCircuit::kFile); });
+            if (!isWired) visitSignals(*circuit, [&](ValueHistory& history) { history.subscribe(&listener); });
+            results[isWired] = runRandomCircuit(*circuit, "test.sig", random);
+            visitSignals(*circuit,
+                         [&](ValueHistory& history) { histories[isWired].push_back(everythingOf(history, kEnd)); });
+        }
+        ASSERT_EQ(results[true].error, results[false].error);
+        ASSERT_EQ(results[true].report, results[false].report);
+        ASSERT_EQ(histories[true].size(), histories[false].size());
+        for (std::size_t i = 0; i < histories[true].size(); ++i) ASSERT_EQ(histories[true][i], histories[false][i]);
+        if (results[true].error.empty()) ++runs;
+    }
+    EXPECT_GT(runs, 50);
+}
+
+/// An inverter in a circuit of its own, between `a` and `y`, and `b` and `c` straight through.
+class WiredBoard : public testing::Test {
+protected:
+    WiredBoard() {
+        here.write("board.nlx",
+                   "Circuit Inner {\n"
+                   "   Pin Input a b\n"
+                   "   Pin Output y c\n"
+                   "   Unit Inv inv(delay=4)\n"
+                   "   Net na a inv.in\n"
+                   "   Net ny inv.out y\n"
+                   "   Net nb b c\n"
+                   "}\n"
+                   "Pin Input a b\n"
+                   "Pin Output y c\n"
+                   "Unit Inner u\n"
+                   "Unit Xor gate(delay=2)\n"
+                   "Net na a u.a gate.a\n"
+                   "Net nb b u.b\n"
+                   "Net ny u.y y\n"
+                   "Net nc u.c c gate.b\n");
+        board = CircuitFileReader().load("board.nlx");
+        simulator = std::make_unique<EventSimulator>(board.get());
+        simulator->prepare(100);
+    }
+    Port& port(const std::string& path) const { return *board->findPort(path); }
+    Wire* wireOf(const std::string& path) const { return port(path).getWire(); }
+    std::string read(const std::string& path, Time time) const { return port(path).get(time).c_str(); }
+    void drive(const std::string& path, char letter, Time time) const { port(path).set(Value(letter, 1), time); }
+
+    const Workplace here;
+    std::unique_ptr<Circuit> board;
+    std::unique_ptr<EventSimulator> simulator;
+};
+
+TEST_F(WiredBoard, AWireGoesThroughAllLevels) {
+    ASSERT_NE(wireOf("a"), nullptr);
+    EXPECT_EQ(wireOf("u.a"), wireOf("a"));
+    EXPECT_EQ(wireOf("u.inv.in"), wireOf("a"));
+    EXPECT_EQ(wireOf("gate.a"), wireOf("a"));
+    EXPECT_EQ(board->findNet("u.na")->getWire(), wireOf("a"));
+    EXPECT_EQ(wireOf("b"), wireOf("c"));
+    EXPECT_EQ(wireOf("gate.b"), wireOf("c"));
+    EXPECT_EQ(wireOf("u.inv.out"), wireOf("y"));
+    EXPECT_NE(wireOf("a"), wireOf("b"));
+}
+
+TEST_F(WiredBoard, ASignalWithoutANetIsAWireOfItsOwn) {
+    ASSERT_NE(wireOf("gate.out"), nullptr);
+    EXPECT_EQ(wireOf("gate.out")->driver(), &port("gate.out"));
+}
+
+TEST_F(WiredBoard, RunsWithItsDelays) {
+    drive("a", 'L', 0);
+    drive("b", 'H', 0);
+    drive("a", 'H', 10);
+    simulator->run(100);
+    EXPECT_EQ(read("y", 3), "U");
+    EXPECT_EQ(read("y", 4), "H");
+    EXPECT_EQ(read("y", 13), "H");
+    EXPECT_EQ(read("y", 14), "L");
+    EXPECT_EQ(read("c", 0), "H");
+    EXPECT_EQ(read("gate.out", 2), "H");
+    EXPECT_EQ(read("gate.out", 12), "L");
+    EXPECT_NE(wireOf("a"), nullptr);
+}
+
+TEST_F(WiredBoard, AFloatingSignalGetsAsFarAsTheFirstPort) {
+    drive("b", 'H', 0);
+    drive("b", 'Z', 10);
+    drive("b", 'L', 20);
+    EXPECT_EQ(wireOf("b"), nullptr);
+    EXPECT_STREQ(board->findNet("nb")->get(10).c_str(), "Z");
+    EXPECT_STREQ(board->findNet("u.nb")->get(10).c_str(), "U");
+    EXPECT_EQ(read("c", 10), "U");
+    EXPECT_EQ(read("c", 9), "H");
+    EXPECT_EQ(read("c", 20), "L");
+}
+
+TEST_F(WiredBoard, AnUnknownLetterIsUndefinedOnTheNet) {
+    drive("a", 'X', 5);
+    EXPECT_EQ(wireOf("a"), nullptr);
+    EXPECT_EQ(read("a", 5), "X");
+    EXPECT_STREQ(board->findNet("na")->get(5).c_str(), "U");
+}
+
+TEST_F(WiredBoard, AValueOfAnotherWidthIsRefusedAndChangesNothing) {
+    drive("a", 'H', 0);
+    EXPECT_EQ(errorOf([&] { port("a").set(Value("HL"), 5); }),
+              "ValueHistory: mismatching type width. ValueHistory width=2, but value width=1");
+    EXPECT_EQ(port("a").recordCount(), 1U);
+    EXPECT_EQ(read("u.a", 5), "H");
+}
+
+TEST_F(WiredBoard, LateValuesDontTouchLaterOnes) {
+    drive("a", 'L', 0);
+    drive("a", 'L', 20);
+    drive("a", 'H', 10);
+    for (const char* path : {"a", "u.a", "u.inv.in", "gate.a"}) {
+        EXPECT_EQ(port(path).recordCount(), 3U) << path;
+        EXPECT_EQ(read(path, 9), "L");
+        EXPECT_EQ(read(path, 19), "H");
+        EXPECT_EQ(read(path, 20), "L");
+    }
+}
+
+/// What cuts the wire of `a`. Whatever it is, the past stays, and what is driven afterwards arrives.
+struct Cut {
+    const char* name;
+    std::function<void(Circuit&)> act;
+};
+class CutWire : public WiredBoard, public testing::WithParamInterface<Cut> {};
+
+TEST_P(CutWire, KeepsItsPastAndGoesOn) {
+    drive("a", 'H', 1);
+    drive("a", 'L', 5);
+    ASSERT_NE(wireOf("a"), nullptr);
+    GetParam().act(*board);
+    EXPECT_EQ(wireOf("a"), nullptr);
+    EXPECT_EQ(wireOf("u.inv.in"), nullptr);
+    EXPECT_EQ(board->findNet("u.na")->getWire(), nullptr);
+    drive("a", 'H', 8);
+    for (const char* path : {"a", "u.a", "u.inv.in"}) {
+        EXPECT_EQ(read(path, 1), "H") << path;
+        EXPECT_EQ(read(path, 5), "L") << path;
+        EXPECT_EQ(read(path, 8), "H") << path;
+    }
+    simulator->run(100);
+    EXPECT_EQ(read("u.inv.out", 12), "L");
+}
+
+Listener listener;
+Port probe(1, Direction::Input, "probe");
+
+INSTANTIATE_TEST_SUITE_P(
+    Wiring, CutWire,
+    testing::Values(
+        Cut{"SomebodyListensToAPort", [](Circuit& board) { board.findPort("u.inv.in")->subscribe(&listener); }},
+        Cut{"SomebodyListensToANet", [](Circuit& board) { board.findNet("u.na")->subscribe(&listener); }},
+        Cut{"SomebodyStopsListening",
+            [](Circuit& board) { board.findPort("gate.a")->unsubscribe(board.findComponent("gate")); }},
+        Cut{"AnInnerPortIsSet", [](Circuit& board) { board.findPort("u.a")->set(Value("L"), 6); }},
+        Cut{"AFollowerIsSet", [](Circuit& board) { board.findPort("gate.a")->set(Value("H"), 7); }},
+        Cut{"ANetIsSet", [](Circuit& board) { board.findNet("u.na")->set(Value("L"), 5); }},
+        Cut{"AFollowerIsRefreshed", [](Circuit& board) { board.findPort("gate.a")->refresh(6); }},
+        Cut{"AFollowerIsCleared", [](Circuit& board) { board.findPort("gate.a")->clear(); }},
+        Cut{"APortIsAttached", [](Circuit& board) { board.findNet("na")->addPort(&probe, kOutside); }},
+        Cut{"APortIsDetached", [](Circuit& board) { board.findPort("gate.a")->disconnect(kOutside); }},
+        Cut{"APortIsRemoved",
+            [](Circuit& board) { board.findComponent("gate")->removePort(board.findPort("gate.a")); }},
+        Cut{"ASideIsSet", [](Circuit& board) { board.findPort("gate.a")->setNet(nullptr, kInside); }},
+        Cut{"ADirectionIsSet", [](Circuit& board) { board.findPort("gate.a")->setDirection(Direction::Input); }},
+        Cut{"AUnitIsRemoved", [](Circuit& board) { board.removeComponent(board.findComponent("gate")); }},
+        Cut{"ADelayChanges",
+            [](Circuit& board) { dynamic_cast<SingleDelayComponent*>(board.findComponent("gate"))->setDelay(9); }},
+        Cut{"ASimulatorIsSet", [](Circuit& board) { board.setSimulator(board.findSimulator()); }}),
+    [](const testing::TestParamInfo<Cut>& each) { return std::string(each.param.name); });
+
+TEST_F(WiredBoard, AWireEndsWithOneOfItsSignals) {
+    drive("a", 'H', 1);
+    {
+        Port guest(1, Direction::Input, "guest");
+        board->findNet("na")->addPort(&guest, kOutside);
+        simulator->prepare(100);
+        drive("a", 'L', 2);
+        EXPECT_EQ(guest.get(2), 'L');
+        EXPECT_EQ(guest.getWire(), wireOf("a"));
+    }
+    EXPECT_EQ(wireOf("a"), nullptr);
+    drive("a", 'H', 3);
+    EXPECT_EQ(read("u.a", 2), "L");
+    EXPECT_EQ(read("u.a", 3), "H");
+}
+
+TEST_F(WiredBoard, TheCircuitMayDieBeforeItsSimulator) {
+    drive("a", 'H', 1);
+    board.reset();
+}
+
+TEST_F(WiredBoard, AnotherDelayIsHeeded) {
+    drive("a", 'H', 1);
+    dynamic_cast<SingleDelayComponent*>(board->findComponent("gate"))->setDelay(9);
+    drive("b", 'L', 2);
+    drive("a", 'L', 20);
+    simulator->run(100);
+    EXPECT_EQ(read("gate.out", 28), "H");
+    EXPECT_EQ(read("gate.out", 29), "L");
+}
+
+TEST_F(WiredBoard, AUnitThatFindsAParentLaterIsCalledThen) {
+    Circuit other("other", nullptr);
+    Component* inv = other.addComponent("Inv", "guest");
+    board->findNet("na")->addPort(inv->findPort("in"), kOutside);
+    simulator->prepare(100);
+    EXPECT_NE(inv->findPort("in")->getWire(), nullptr);
+    drive("a", 'L', 5);
+    inv->setParent(board.get());
+    drive("a", 'H', 20);
+    simulator->run(100);
+    EXPECT_EQ(inv->findPort("out")->recordCount(), 1U);
+    EXPECT_EQ(inv->findPort("out")->get(23), 'L');
+    inv->setParent(&other);
+}
+
+/// Three drivers of four bits on one net, which goes on into a circuit.
+class BusBoard : public testing::Test {
+protected:
+    BusBoard() {
+        inner.createNet("ni", {inside, gate->findPort("in")});
+        board.addChild(&inner, nullptr);
+        drivers = {board.createPort(1, Direction::Input, "d0"), board.createPort(1, Direction::Input, "d1"),
+                   board.createPort(1, Direction::Input, "d2")};
+        net = board.createNet("n", {drivers[0], drivers[1], drivers[2], inside});
+        simulator.prepare(1000);
+    }
+    ~BusBoard() override { board.setSimulator(nullptr); }
+    std::string at(Time time) const { return std::string(net->get(time).c_str()) + inside->get(time).c_str(); }
+    void drive(std::size_t driver, char letter, Time time) const { drivers[driver]->set(Value(letter, 1), time); }
+
+    Circuit inner{"inner", nullptr};
+    Port* inside = inner.createPort(1, Direction::Input, "in");
+    Component* gate = inner.addComponent("Inv", "gate");
+    Circuit board{"board", nullptr};
+    EventSimulator simulator{&board};
+    std::vector<Port*> drivers;
+    Net* net;
+};
+
+TEST_F(BusBoard, DriversKeepTheirOwnPast) {
+    ASSERT_NE(drivers[0]->getBus(), nullptr);
+    EXPECT_EQ(drivers[2]->getBus(), drivers[0]->getBus());
+    EXPECT_EQ(drivers[0]->getWire(), nullptr);
+    EXPECT_EQ(inside->getWire(), net->getWire());
+    drive(0, 'H', 1);
+    drive(1, 'L', 2);
+    EXPECT_EQ(drivers[0]->recordCount(), 1U);
+    EXPECT_EQ(drivers[1]->recordCount(), 1U);
+    EXPECT_EQ(drivers[2]->recordCount(), 0U);
+    EXPECT_EQ(net->recordCount(), 2U);
+    EXPECT_EQ(inside->recordCount(), 2U);
+    EXPECT_EQ(drivers[0]->get(1), 'H');
+}
+
+TEST_F(BusBoard, OneActiveDriverCounts) {
+    for (const std::size_t driver : {0U, 1U, 2U}) drive(driver, 'U', 0);
+    EXPECT_EQ(at(0), "UU");
+    drive(0, 'L', 1);
+    drive(1, 'Z', 2);
+    EXPECT_EQ(at(2), "UU");
+    drive(2, 'X', 3);
+    EXPECT_EQ(at(3), "UU");
+    EXPECT_NE(drivers[0]->getBus(), nullptr);
+}
+
+TEST_F(BusBoard, FollowsItsDriversAtEveryTime) {
+    drivers[2]->disconnect(kInside);
+    simulator.prepare(1000);
+    drive(0, 'Z', 0);
+    drive(1, 'H', 10);
+    EXPECT_EQ(at(9), "UU");  // the other one has never been set
+    EXPECT_EQ(at(10), "HH");
+    drive(0, 'L', 20);
+    EXPECT_EQ(at(20), "UU");
+    drive(1, 'Z', 30);
+    EXPECT_EQ(at(30), "LL");
+    drive(0, 'L', 30);
+    EXPECT_EQ(at(30), "LL");
+    // Late: at 15 the first one takes over from the second one, whose later values stay, and so do those of the net.
+    drive(0, 'H', 15);
+    EXPECT_EQ(at(14), "HH");
+    EXPECT_EQ(at(15), "UU");
+    EXPECT_EQ(at(30), "LL");
+    drive(1, 'L', 25);
+    EXPECT_EQ(at(25), "UU");
+    EXPECT_EQ(at(30), "LL");
+    drive(1, 'Z', 40);
+    EXPECT_EQ(at(40), "LL");
+    drive(0, 'H', 50);
+    EXPECT_EQ(at(50), "HH");
+}
+
+TEST_F(BusBoard, ItIsCutWhenItFloatsIntoALevelBelow) {
+    drivers[2]->disconnect(kInside);
+    simulator.prepare(1000);
+    drive(0, 'Z', 0);
+    drive(1, 'H', 10);
+    ASSERT_NE(drivers[0]->getBus(), nullptr);
+    drive(1, 'Z', 20);
+    EXPECT_EQ(drivers[0]->getBus(), nullptr);
+    EXPECT_EQ(net->getWire(), nullptr);
+    EXPECT_EQ(at(20), "ZU");
+    EXPECT_EQ(at(10), "HH");
+    EXPECT_STREQ(inner.findNet("ni")->get(20).c_str(), "U");
+    drive(0, 'L', 30);
+    EXPECT_EQ(at(30), "LL");
+    EXPECT_EQ(net->recordCount(), 4U);
+}
+
+TEST(Wiring, ARingOfNetsIsNoWire) {
+    Circuit inner("inner", nullptr);
+    Circuit root("root", nullptr);
+    Pin* in = inner.createPin(Direction::Input, "in");
+    Pin* out = inner.createPin(Direction::Output, "out");
+    inner.createNet("through", {in, out});
+    root.addChild(&inner, nullptr);
+    root.createNet("back", {in, out});
+    EventSimulator simulator(&root);
+    simulator.prepare(10);
+    EXPECT_EQ(in->getWire(), nullptr);
+    EXPECT_NE(errorOf([&] { in->set(Value("H"), 1); }), "(no Error)");
+}
+
+TEST(Wiring, AnyNumberOfLevelsIsOneWire) {
+    constexpr int kLevels = 20000;
+    std::vector<std::unique_ptr<Circuit>> levels;
+    Circuit root("root", nullptr);
+    std::vector<Port*> ends = {root.createPin(Direction::Input, "in")};
+    for (int i = 0; i < kLevels; ++i) {
+        auto& level = *levels.emplace_back(std::make_unique<Circuit>("level" + std::to_string(i), nullptr));
+        Pin* in = level.createPin(Direction::Input, "in");
+        Pin* out = level.createPin(Direction::Output, "out");
+        level.createNet({in, out});
+        root.addChild(&level, nullptr);
+        root.createNet("n" + std::to_string(i), {ends.back(), in});
+        ends.push_back(out);
+    }
+    EventSimulator simulator(&root);
+    simulator.prepare(10);
+    ends.front()->set(Value("H"), 1);
+    EXPECT_EQ(ends.back()->getWire(), ends.front()->getWire());
+    EXPECT_EQ(ends.back()->get(1), 'H');
+}
+
+}  // namespace
+}  // namespace tarnsim
