@@ -124,8 +124,8 @@ public:
 
     /// For the run's directory: the number of this component's plain event.
     EventNumber& plainEvent() { return plainEvent_; }
-    /// The cache lines of this object that an evaluation looks at: which class it is, and what the class has beside this
-    /// one.
+    /// The cache lines of this object that an evaluation looks at: which class it is, and what the class has beside
+    /// this one.
     std::array<const void*, 4> hotPlaces() const {
         const auto* end = reinterpret_cast<const char*>(&plainEvent_);
         return {this, end, end + 64, end + 128};
