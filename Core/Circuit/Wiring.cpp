@@ -28,6 +28,20 @@ Net* nearNet(const Port& port) {
     return port.getNet(port.direction() == Direction::Output ? kInside : kOutside);
 }
 
+/// The nets that Inouts join to this one, itself first.
+std::vector<Net*> joinedNets(Net& net) {
+    std::vector<Net*> nets = {&net};
+    if (net.roles().inouts.empty()) return nets;
+    std::unordered_set<const Net*> known = {&net};
+    for (std::size_t i = 0; i < nets.size(); ++i) {
+        for (const Port* inout : nets[i]->roles().inouts) {
+            Net* other = nets[i]->otherNet(*inout);
+            if (other != nullptr && known.insert(other).second) nets.push_back(other);
+        }
+    }
+    return nets;
+}
+
 void collectComponents(Circuit& circuit, std::vector<Component*>& components) {
     std::vector<Circuit*> open = {&circuit};
     while (!open.empty()) {
@@ -54,7 +68,8 @@ public:
 
     /// All signals behind the net can be on the wire of its only driver.
     bool canBeWired(Net& net) { return stateOf(net) == State::Wired; }
-    /// All signals behind the net can be on one wire, which its several drivers drive together.
+    /// All signals behind the net, and behind those that Inouts join to it, can be on one wire, which the drivers of
+    /// them all drive together.
     bool canBeBus(Net& net) { return stateOf(net) == State::Bus; }
 
     Response responseOf(const ValueChangeSubscriber& subscriber, const Port& port) const {
@@ -81,46 +96,62 @@ private:
         std::vector<Net*> path = {&net};
         while (!path.empty()) {
             Net& next = *path.back();
-            const auto [known, isNew] = nets_.try_emplace(&next, State::Open);
-            if (isNew && !isPlain(next)) known->second = State::Refused;
-            if (known->second != State::Open || !pushNextLevel(next, path)) path.pop_back();
+            if (!nets_.contains(&next)) {
+                const auto group = joinedNets(next);
+                const State state = isPlain(group) ? State::Open : State::Refused;
+                for (const Net* each : group) nets_.emplace(each, state);
+            }
+            if (nets_.at(&next) != State::Open || !pushNextLevel(next, path)) path.pop_back();
         }
         return nets_.at(&net);
     }
 
-    /// Puts a net that has to be looked at first on the path. If there is none, the net is decided on.
-    bool pushNextLevel(const Net& net, std::vector<Net*>& path) {
-        State& state = nets_.at(&net);
-        for (const Port* port : net.roles().followers) {
-            Net* next = port->farNet();
-            if (next == nullptr) continue;
-            const auto known = nets_.find(next);
-            if (known == nets_.end()) {
-                path.push_back(next);
-                return true;
+    /// Puts a net that has to be looked at first on the path. If there is none, the net is decided on, and those that
+    /// are joined to it.
+    bool pushNextLevel(Net& net, std::vector<Net*>& path) {
+        const auto group = joinedNets(net);
+        State state = State::Wired;
+        for (const Net* each : group) {
+            for (const Port* port : each->roles().followers) {
+                Net* next = port->farNet();
+                if (next == nullptr) continue;
+                const auto known = nets_.find(next);
+                if (known == nets_.end()) {
+                    path.push_back(next);
+                    return true;
+                }
+                // An open one is a ring.
+                if (known->second != State::Wired) state = State::Refused;
             }
-            // An open one is a ring.
-            if (known->second != State::Wired) {
-                state = State::Refused;
-                return false;
-            }
+            const bool isDrivenByOne = each->roles().drivers.size() == 1 && each->roles().inouts.empty();
+            if (state == State::Wired && !isDrivenByOne) state = State::Bus;
         }
-        state = net.roles().drivers.size() == 1 ? State::Wired : State::Bus;
+        for (const Net* each : group) nets_[each] = state;
         return false;
     }
 
     /// Nobody who listens needs to be called, and drivers show what is set on them.
-    bool isPlain(const Net& net) const {
-        if (net.width() == 0 || net.width() > kMaxValueWidth) return false;
-        if (!net.subscribers().empty() || net.recordCount() > 0 || !net.roles().isPlain) return false;
-        const auto& drivers = net.roles().drivers;
-        if (drivers.empty() || drivers.size() > kMostDrivers) return false;
-        if (drivers.size() > 1 && std::ranges::any_of(drivers, [](const Port* port) { return nearNet(*port); })) {
-            return false;
+    bool isPlain(const std::vector<Net*>& group) const {
+        std::size_t drivers = 0;
+        bool isReadByDriver = false;
+        bool isJoined = false;
+        for (const Net* net : group) {
+            if (!isPlain(*net) || net->width() != group.front()->width()) return false;
+            drivers += net->roles().drivers.size();
+            isJoined = isJoined || !net->roles().inouts.empty();
+            isReadByDriver = isReadByDriver || std::ranges::any_of(net->roles().drivers, [](const Port* port) {
+                                 return nearNet(*port) != nullptr;
+                             });
         }
-        return std::ranges::all_of(net.getPorts(), [&](const Port* port) { return isPlain(*port, net); });
+        return drivers > 0 && drivers <= kMostDrivers && !((drivers > 1 || isJoined) && isReadByDriver);
+    }
+    bool isPlain(const Net& net) const {
+        return net.width() > 0 && net.width() <= kMaxValueWidth && net.subscribers().empty() &&
+               net.recordCount() == 0 && net.roles().isWhole &&
+               std::ranges::all_of(net.getPorts(), [&](const Port* port) { return isPlain(*port, net); });
     }
     bool isPlain(const Port& port, const Net& net) const {
+        if (port.direction() == Direction::Inout) return port.recordCount() == 0 && port.subscribers().empty();
         return net.isDriver(port) != net.isFollower(port) && isPlain(port);
     }
 
@@ -152,10 +183,11 @@ public:
         if (driver.direction() == Direction::Inout) return;
         Net* net = driver.farNet();
         if (net != nullptr && finder_.canBeBus(*net)) {
-            if (buses_.insert(net).second) layBus(*net);
+            if (!buses_.contains(net)) layBus(*net);
         } else if (canBeWired(driver) && !isFollowerOnWire(driver)) {
             // A port may stand in the lists of two components.
-            if (drivers_.insert(&driver).second) layWire(&driver, net);
+            if (!drivers_.insert(&driver).second) return;
+            layWire(&driver, net == nullptr ? std::vector<Net*>() : std::vector<Net*>{net});
         }
     }
 
@@ -166,7 +198,7 @@ public:
             const Extent& end = begins_[i + 1];
             Wire& wire = wires_.wires.emplace_back(
                 simulator_,
-                Wire::Members{begin.driver, part(wires_.listeners, begin.listeners, end.listeners),
+                Wire::Members{begin.driver, begin.passesZ, part(wires_.listeners, begin.listeners, end.listeners),
                               part(wires_.ports, begin.ports, end.ports), part(wires_.nets, begin.nets, end.nets)});
             if (begin.driver == nullptr) {
                 wires_.buses.emplace_back(wire, part(wires_.busDrivers, begin.busDrivers, end.busDrivers));
@@ -177,6 +209,7 @@ public:
 private:
     struct Extent {
         Port* driver;
+        bool passesZ;
         std::size_t listeners;
         std::size_t ports;
         std::size_t nets;
@@ -184,25 +217,34 @@ private:
     };
 
     Extent extent(Port* driver = nullptr) const {
-        return {driver, wires_.listeners.size(), wires_.ports.size(), wires_.nets.size(), wires_.busDrivers.size()};
+        return {
+            driver, false, wires_.listeners.size(), wires_.ports.size(), wires_.nets.size(), wires_.busDrivers.size()};
     }
     void layBus(Net& net) {
-        layWire(nullptr, &net);
-        const auto& drivers = net.roles().drivers;
-        wires_.busDrivers.insert(wires_.busDrivers.end(), drivers.begin(), drivers.end());
+        const auto group = joinedNets(net);
+        layWire(nullptr, group);
+        for (const Net* each : group) {
+            buses_.insert(each);
+            const auto& drivers = each->roles().drivers;
+            wires_.busDrivers.insert(wires_.busDrivers.end(), drivers.begin(), drivers.end());
+            for (Port* inout : each->roles().inouts) wires_.ports.push_back(inout);
+        }
     }
-    void layWire(Port* driver, Net* first) {
+    void layWire(Port* driver, const std::vector<Net*>& firstLevel) {
         begins_.push_back(extent(driver));
         if (driver != nullptr) add(*driver);
         std::size_t next = wires_.nets.size();
-        if (first != nullptr) wires_.nets.push_back(first);
-        // A list that grows while it is gone through: the levels behind the first net.
+        const std::size_t endOfFirst = next + firstLevel.size();
+        wires_.nets.insert(wires_.nets.end(), firstLevel.begin(), firstLevel.end());
+        // A list that grows while it is gone through: the levels behind the first one.
         while (next < wires_.nets.size()) {
             for (Port* port : wires_.nets[next++]->roles().followers) {
                 add(*port);
                 if (Net* behind = port->farNet()) wires_.nets.push_back(behind);
             }
         }
+        begins_.back().passesZ =
+            wires_.nets.size() == endOfFirst && (driver == nullptr || driver->readNet() == nullptr);
     }
     bool canBeWired(const Port& driver) {
         Net* net = driver.farNet();

@@ -14,7 +14,7 @@ namespace tarnsim {
 class Port;
 
 /// A net with several drivers, each with a past of its own, and what follows it: that is one wire, which shows what the
-/// drivers come to.
+/// drivers come to. Nets that Inouts join resolve as one and are one bus.
 ///
 /// It counts for each bit how many drivers are active, and so needs to look at none but the one that is set: a bus with
 /// many buffers costs no more than one with two. Only a value for a time before the latest makes it look at all.

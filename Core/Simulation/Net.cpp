@@ -224,14 +224,15 @@ const PinSpec* Net::findPinSpec(const Port* port) const {
 const Net::Roles& Net::roles() const {
     if (!roles_) {
         auto roles = std::make_unique<Roles>();
-        roles->isPlain = pinSpecs_.empty();
+        roles->isWhole = pinSpecs_.empty();
         for (Port* port : ports_) {
             const bool isInout = port->direction() == Direction::Inout;
             if (isInout) roles->inouts.push_back(port);
             if (!isInout && isDriver(*port)) roles->drivers.push_back(port);
             if (isFollower(*port)) roles->followers.push_back(port);
-            if (isInout || port->width() != width()) roles->isPlain = false;
+            if (port->width() != width()) roles->isWhole = false;
         }
+        roles->isPlain = roles->isWhole && roles->inouts.empty();
         roles_ = std::move(roles);
     }
     return *roles_;

@@ -70,7 +70,8 @@ public:
         std::vector<Port*> drivers;  ///< that aren't Inouts
         std::vector<Port*> followers;
         std::vector<Port*> inouts;
-        bool isPlain = false;  ///< no Inouts, no bit ranges, and all ports as wide as the net
+        bool isWhole = false;  ///< no bit ranges, and all ports as wide as the net
+        bool isPlain = false;  ///< the same, and no Inouts
     };
     const Roles& roles() const;
     /// For ports: one of these has changed.

@@ -66,6 +66,7 @@ char Port::readZ() const {
 
 void Port::joinWire(Wire* wire, const std::shared_ptr<ValueRecords>& records) {
     wire_ = wire;
+    if (direction_ == Direction::Inout) return;  // joins nets of the wire, and has nothing of its own
     // What reads a net drives what it reads there, not what is set.
     if (wire->driver() == this && readNet() == nullptr) drivenWire_ = wire;
     shareRecords(records);

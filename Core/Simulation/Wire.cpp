@@ -9,10 +9,7 @@
 
 namespace tarnsim {
 
-Wire::Wire(EventSimulator& simulator, const Members& members)
-    : simulator_(simulator),
-      members_(members),
-      passesZ_(members.nets.size() <= 1 && (members.driver == nullptr || members.driver->readNet() == nullptr)) {}
+Wire::Wire(EventSimulator& simulator, const Members& members) : simulator_(simulator), members_(members) {}
 
 void Wire::join(const std::shared_ptr<void>& owner) {
     const std::shared_ptr<ValueRecords> records(owner, &records_);

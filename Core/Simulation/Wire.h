@@ -38,6 +38,7 @@ public:
     /// None of these is owned; all must live as long as the wire is whole.
     struct Members {
         Port* driver;  ///< one of the ports; null for the wire of a Bus
+        bool passesZ;  ///< no port stands between the signals that makes `U` of a `Z`
         std::span<const Listener> listeners;
         std::span<Port* const> ports;
         std::span<Net* const> nets;
@@ -58,7 +59,7 @@ public:
     /// Whether all signals show a letter of the driver as it is. A `Z` doesn't get through ports to further levels, and
     /// a net makes `U` of what is no letter that it knows.
     bool passes(char letter) const {
-        return letter == 'L' || letter == 'H' || letter == kUndefinedBit || (letter == 'Z' && passesZ_);
+        return letter == 'L' || letter == 'H' || letter == kUndefinedBit || (letter == 'Z' && members_.passesZ);
     }
     bool passes(std::string_view letters) const;
 
@@ -89,7 +90,6 @@ private:
     EventSimulator& simulator_;
     Members members_;
     Bus* bus_ = nullptr;  ///< not owned
-    bool passesZ_;
 };
 
 }  // namespace tarnsim

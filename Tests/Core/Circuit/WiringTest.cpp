@@ -379,6 +379,81 @@ TEST_F(BusBoard, ItIsCutWhenItFloatsIntoALevelBelow) {
     EXPECT_EQ(net->recordCount(), 4U);
 }
 
+/// A buffer on either side of an Inout, each with a gate that listens.
+class JoinedBoard : public testing::Test {
+protected:
+    JoinedBoard() {
+        here.write("board.nlx",
+                   "Circuit Inner {\n"
+                   "   Pin Inout io\n"
+                   "   Pin Input x\n"
+                   "   Unit Inv ear(delay=1)\n"
+                   "   Net n io x ear.in\n"
+                   "}\n"
+                   "Pin Input a x\n"
+                   "Unit Inner u\n"
+                   "Unit Inv ear(delay=1)\n"
+                   "Net n a u.io ear.in\n"
+                   "Net nx x u.x\n");
+        board = CircuitFileReader().load("board.nlx");
+        // The inner driver is to be one that is set itself.
+        board->findPort("u.x")->disconnect(kOutside);
+        simulator = std::make_unique<EventSimulator>(board.get());
+        simulator->prepare(100);
+    }
+    Port& port(const std::string& path) const { return *board->findPort(path); }
+    std::string at(Time time) const {
+        return std::string(board->findNet("n")->get(time).c_str()) + board->findNet("u.n")->get(time).c_str() +
+               port("ear.in").get(time).c_str() + port("u.ear.in").get(time).c_str();
+    }
+    void drive(const std::string& path, char letter, Time time) const { port(path).set(Value(letter, 1), time); }
+
+    const Workplace here;
+    std::unique_ptr<Circuit> board;
+    std::unique_ptr<EventSimulator> simulator;
+};
+
+TEST_F(JoinedBoard, NetsThatAnInoutJoinsAreOneBus) {
+    ASSERT_NE(port("a").getBus(), nullptr);
+    EXPECT_EQ(port("u.x").getBus(), port("a").getBus());
+    drive("a", 'Z', 0);
+    EXPECT_EQ(at(0), "UUUU");
+    drive("u.x", 'H', 10);
+    EXPECT_EQ(at(10), "HHHH");
+    drive("u.x", 'Z', 20);
+    EXPECT_EQ(at(20), "ZZUU");
+    drive("a", 'L', 30);
+    EXPECT_EQ(at(30), "LLLL");
+    EXPECT_EQ(port("u.io").get(30), 'L');
+    EXPECT_EQ(port("u.io").recordCount(), 0U);
+    EXPECT_EQ(board->findNet("u.n")->recordCount(), 4U);
+    ASSERT_NE(port("a").getBus(), nullptr);
+    simulator->run(100);
+    EXPECT_EQ(port("ear.out").get(31), 'H');
+    EXPECT_EQ(port("u.ear.out").get(11), 'L');
+}
+
+TEST_F(JoinedBoard, AnInoutThatIsSetDrivesItsInsideFromThenOn) {
+    drive("a", 'Z', 0);
+    drive("u.x", 'Z', 0);
+    EXPECT_EQ(at(0), "ZZUU");
+    drive("u.io", 'H', 10);
+    EXPECT_EQ(port("a").getBus(), nullptr);
+    EXPECT_EQ(board->findNet("n")->getWire(), nullptr);
+    EXPECT_EQ(at(9), "ZZUU");
+    EXPECT_EQ(at(10), "UUUU");  // between two nets it reads these and not what was set, so it drives what floats
+}
+
+TEST_F(JoinedBoard, AnInoutThatIsTakenAwayPartsTheNets) {
+    drive("a", 'H', 0);
+    drive("u.x", 'Z', 0);
+    port("u.io").disconnect(kInside);
+    EXPECT_EQ(port("a").getBus(), nullptr);
+    drive("a", 'L', 10);
+    EXPECT_EQ(at(0), "HHHH");
+    EXPECT_EQ(at(10), "LHLH");
+}
+
 TEST(Wiring, ARingOfNetsIsNoWire) {
     Circuit inner("inner", nullptr);
     Circuit root("root", nullptr);

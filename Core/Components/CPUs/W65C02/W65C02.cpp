@@ -57,7 +57,8 @@ void W65C02::evaluate(Time time) {
 }
 
 void W65C02::refreshInputPins(Time time) {
-    d_read.refresh(time);
+    // Nobody sees the records of this port; on a wire it needs none of its own.
+    if (d_read.getWire() == nullptr) d_read.refresh(time);
     for (Pin* pin : {&IRQ, &NMI, &RDY, &PHI0, &SO}) pin->refresh(time);
 }
 
