@@ -51,8 +51,8 @@ public:
 
     std::uint32_t getDelay() const { return delay_; }
     virtual void setDelay(std::uint32_t delay) {
+        if (delay != delay_) responsesChange();
         delay_ = delay;
-        responsesChange();
     }
 
 protected:

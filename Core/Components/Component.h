@@ -191,8 +191,8 @@ public:
     std::uint32_t getDelay() const { return delay_; }
     /// In ns. Parts that are made of others pass it on.
     virtual void setDelay(std::uint32_t delay) {
+        if (delay != delay_) responsesChange();
         delay_ = delay;
-        responsesChange();
     }
 
 protected:

@@ -260,6 +260,11 @@ TEST_F(WiredBoard, TheCircuitMayDieBeforeItsSimulator) {
     board.reset();
 }
 
+TEST_F(WiredBoard, ParametersThatAreReadAgainAndStayCutNothing) {
+    board->findComponent("gate")->applyParameters();
+    EXPECT_NE(wireOf("a"), nullptr);
+}
+
 TEST_F(WiredBoard, AnotherDelayIsHeeded) {
     drive("a", 'H', 1);
     dynamic_cast<SingleDelayComponent*>(board->findComponent("gate"))->setDelay(9);

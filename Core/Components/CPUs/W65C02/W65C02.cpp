@@ -9,8 +9,9 @@ W65C02::W65C02(const std::string& name, const ParaMap& parameters) : Processor(n
 
 void W65C02::applyParameters() {
     Processor::applyParameters();
+    const std::uint32_t former = t_bvd;
     getParameters().get("t_bvd", &t_bvd);
-    responsesChange();
+    if (t_bvd != former) responsesChange();
 }
 
 void W65C02::reset() {
