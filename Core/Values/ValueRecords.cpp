@@ -59,13 +59,16 @@ std::size_t ValueRecords::Stack::search(std::size_t begin, std::size_t end, Pred
 }
 
 std::size_t ValueRecords::Stack::countNotLater(Time time) const {
-    for (std::size_t i = recent_; i > 0; --i) {
-        if (recentTimes_[i - 1] <= time) return inChunks_ + i;
-    }
+    const std::size_t recent = countRecentNotLater(time);
+    return recent > 0 ? inChunks_ + recent : countInChunksNotLater(time);
+}
+
+std::size_t ValueRecords::Stack::countInChunksNotLater(Time time) const {
     const std::size_t size = inChunks_;
     if (size == 0 || timeInChunk(size - 1) <= time) return size;
-    // A part looks back by its delay, seldom behind the last change but one; whoever reads on and on through the past,
-    // as the table of results does, finds the next record beside the last.
+    // A part looks back by its delay, seldom behind the last change but one. Whoever reads on and on through the past,
+    // as the table of results does, and parts on a clock that was laid down for the whole run, find the next record
+    // beside the last.
     if (size > 1 && timeInChunk(size - 2) <= time) return size - 1;
     const auto fits = [&](std::size_t count) {
         return count < size && timeInChunk(count) > time && (count == 0 || timeInChunk(count - 1) <= time);

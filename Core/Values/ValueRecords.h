@@ -51,14 +51,12 @@ public:
 
     /// The letters of the record in force at `time`; null if there is none.
     const char* lettersInForceAt(Time time) const {
+        if (countBehind() == 0) return before_.lettersInForceAt(time);
         const auto record = inForceAt(time);
         return record ? lettersOf(*record).data() : nullptr;
     }
     /// For records of one letter: the one in force at `time`, `none` before the first record.
     char letterInForceAt(Time time, char none) const {
-        if (countBehind() == 0) {
-            if (const char* letter = before_.recentLetterInForceAt(time)) return *letter;
-        }
         const char* letter = lettersInForceAt(time);
         return letter == nullptr ? none : *letter;
     }
@@ -100,12 +98,11 @@ private:
             ++recent_;
         }
         void pop() { recent_ > 0 ? --recent_ : --inChunks_; }
-        /// Null if it isn't one of the recent letters.
-        const char* recentLetterInForceAt(Time time) const {
-            for (std::size_t i = recent_; i > 0; --i) {
-                if (recentTimes_[i - 1] <= time) return &recentLetters_[i - 1];
-            }
-            return nullptr;
+        /// Null if all records are later. In a stack with the latest on top.
+        const char* lettersInForceAt(Time time) const {
+            if (const std::size_t recent = countRecentNotLater(time); recent > 0) return &recentLetters_[recent - 1];
+            const std::size_t count = countInChunksNotLater(time);
+            return count == 0 ? nullptr : lettersInChunk(count - 1);
         }
         /// The number of records that aren't later than `time`, in a stack with the latest on top.
         std::size_t countNotLater(Time time) const;
@@ -125,6 +122,12 @@ private:
         const char* lettersInChunk(std::size_t i) const {
             return chunkOf(i) + sizeof(Time) * chunkLength() + (i & (chunkLength() - 1)) * width_;
         }
+        std::size_t countRecentNotLater(Time time) const {
+            std::size_t count = recent_;
+            while (count > 0 && recentTimes_[count - 1] > time) --count;
+            return count;
+        }
+        std::size_t countInChunksNotLater(Time time) const;
         void pushToChunk(Time time, const char* letters);
         void flush();
         /// The first of the records `begin` to `end` in chunks for which `isBehind(time)`; `end` if there is none.
