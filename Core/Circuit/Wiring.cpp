@@ -245,6 +245,9 @@ private:
         }
         begins_.back().passesZ =
             wires_.nets.size() == endOfFirst && (driver == nullptr || driver->readNet() == nullptr);
+        if (driver == nullptr) return;
+        // Nobody asks these nets for their ports' roles again, and a large board has many.
+        for (std::size_t i = begins_.back().nets; i < wires_.nets.size(); ++i) wires_.nets[i]->rolesChange();
     }
     bool canBeWired(const Port& driver) {
         Net* net = driver.farNet();
