@@ -60,11 +60,11 @@ public:
         : stream_(stream), sequence_(sequence), header_(*sequence.header()), withDeltaTime_(withDeltaTime) {
         for (const auto& vector : sequence.vectors()) timeWidth_ = std::max(timeWidth_, timeWidthOf(*vector));
         for (int i = 0; i < header_.inputCount(); ++i) {
-            inputs_.push_back({header_.inputName(i), header_.isReversed(1 + i)});
+            inputs_.emplace_back(header_.inputName(i), header_.isReversed(1 + i));
             for (const auto& vector : sequence.vectors()) inputs_.back().makeRoomFor(vector->inputs(), i);
         }
         for (int i = 0; i < header_.outputCount(); ++i) {
-            outputs_.push_back({header_.outputName(i), header_.isReversed(header_.separatorColumn() + 1 + i)});
+            outputs_.emplace_back(header_.outputName(i), header_.isReversed(header_.separatorColumn() + 1 + i));
             for (const auto& vector : sequence.vectors()) outputs_.back().makeRoomFor(vector->outputs(), i);
         }
     }

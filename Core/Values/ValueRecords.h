@@ -64,10 +64,12 @@ public:
     // REQUIRES: i < size()
 
     Time timeOf(std::size_t i) const {
-        return i < before_.size() ? before_.timeOf(i) : behind_->timeOf(size() - 1 - i);
+        const bool isBehind = behind_ && i >= before_.size();
+        return isBehind ? behind_->timeOf(size() - 1 - i) : before_.timeOf(i);
     }
     std::string_view lettersOf(std::size_t i) const {
-        return {i < before_.size() ? before_.lettersOf(i) : behind_->lettersOf(size() - 1 - i), before_.width()};
+        const bool isBehind = behind_ && i >= before_.size();
+        return {isBehind ? behind_->lettersOf(size() - 1 - i) : before_.lettersOf(i), before_.width()};
     }
 
 private:
