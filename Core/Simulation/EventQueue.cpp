@@ -25,8 +25,8 @@ std::span<const EventNumber> EventSet::take(std::vector<EventNumber>& entered) {
     return pass_;
 }
 
-/// A pass of a large board is a few hundred events out of some thousand: setting a bit for each and reading the bits
-/// back costs a third of sorting them.
+/// A pass of a large board is a few hundred events out of some thousand: to set a bit for each and read the bits back
+/// is less work than to sort them.
 void EventSet::sortByBits(EventNumber least, EventNumber greatest) {
     bits_.resize((directory_.size() + 63) / 64);
     for (const EventNumber number : pass_) bits_[number / 64] |= std::uint64_t{1} << (number % 64);

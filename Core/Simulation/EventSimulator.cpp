@@ -38,7 +38,7 @@ void EventSimulator::run(Time endTime) {
 void EventSimulator::workThrough(Time time) {
     for (auto pass = queue_.takePass(); !pass.empty(); pass = queue_.takePass()) {
         // The parts of a large board don't fit into the caches: asking for them while others are evaluated hides most
-        // of what fetching them costs (4,096 flip-flops on one clock take a third of the time).
+        // of what fetching them costs (4,096 flip-flops on one clock take two thirds of the time).
         constexpr std::size_t kAhead = 4;
         for (std::size_t i = 0; i < pass.size(); ++i) {
             if (i + kAhead < pass.size()) events_.prefetch(pass[i + kAhead]);

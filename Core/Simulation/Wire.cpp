@@ -9,13 +9,22 @@
 
 namespace tarnsim {
 
-Wire::Wire(EventSimulator& simulator, const Members& members) : simulator_(simulator), members_(members) {}
+Wire::Wire(EventSimulator& simulator, const Members& members)
+    : simulator_(simulator),
+      listeners_(members.listeners.data()),
+      ports_(members.ports.data()),
+      nets_(members.nets.data()),
+      listenerCount_(static_cast<std::uint32_t>(members.listeners.size())),
+      portCount_(static_cast<std::uint32_t>(members.ports.size())),
+      netCount_(static_cast<std::uint32_t>(members.nets.size())),
+      passesZ_(members.passesZ),
+      driver_(members.driver) {}
 
 void Wire::join(const std::shared_ptr<void>& owner) {
     const std::shared_ptr<ValueRecords> records(owner, &records_);
     // The nets first: a port asks its net whether it is on this wire, too.
-    for (Net* net : members_.nets) net->joinWire(this, records);
-    for (Port* port : members_.ports) port->joinWire(this, records);
+    for (Net* net : nets()) net->joinWire(this, records);
+    for (Port* port : ports()) port->joinWire(this, records);
 }
 
 bool Wire::passes(std::string_view letters) const {
@@ -32,9 +41,10 @@ void Wire::set(std::string_view letters, Time time) {
 
 void Wire::cut() {
     if (Bus* bus = std::exchange(bus_, nullptr)) return bus->cut();
-    for (Port* port : members_.ports) port->leaveWire();
-    for (Net* net : members_.nets) net->leaveWire();
-    members_ = {};
+    for (Port* port : ports()) port->leaveWire();
+    for (Net* net : nets()) net->leaveWire();
+    listenerCount_ = portCount_ = netCount_ = 0;
+    driver_ = nullptr;
 }
 
 }  // namespace tarnsim

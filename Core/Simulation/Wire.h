@@ -53,13 +53,13 @@ public:
     /// does `owner`.
     void join(const std::shared_ptr<void>& owner);
 
-    const Port* driver() const { return members_.driver; }
+    const Port* driver() const { return driver_; }
     /// What drives the wire instead of a driver. Ends with it.
     void joinBus(Bus* bus) { bus_ = bus; }
     /// Whether all signals show a letter of the driver as it is. A `Z` doesn't get through ports to further levels, and
     /// a net makes `U` of what is no letter that it knows.
     bool passes(char letter) const {
-        return letter == 'L' || letter == 'H' || letter == kUndefinedBit || (letter == 'Z' && members_.passesZ);
+        return letter == 'L' || letter == 'H' || letter == kUndefinedBit || (letter == 'Z' && passesZ_);
     }
     bool passes(std::string_view letters) const;
 
@@ -80,16 +80,29 @@ public:
 
 private:
     void notify(Time time) {
-        for (const Listener& listener : members_.listeners) {
+        for (const Listener& listener : listeners()) {
             const std::int64_t due = later(time, listener.delay);
             if (due <= kLatestTime) simulator_.schedule(listener.event, static_cast<Time>(due));
         }
     }
 
+    std::span<const Listener> listeners() const { return {listeners_, listenerCount_}; }
+    std::span<Port* const> ports() const { return {ports_, portCount_}; }
+    std::span<Net* const> nets() const { return {nets_, netCount_}; }
+
     ValueRecords records_;
     EventSimulator& simulator_;
-    Members members_;
+    // The members, packed so that they fit into the second cache line.
+    const Listener* listeners_;
+    Port* const* ports_;
+    Net* const* nets_;
+    std::uint32_t listenerCount_;
+    std::uint32_t portCount_;
+    std::uint32_t netCount_;
+    bool passesZ_;
+    const Port* driver_;
     Bus* bus_ = nullptr;  ///< not owned
 };
+static_assert(sizeof(Wire) == 128);
 
 }  // namespace tarnsim
