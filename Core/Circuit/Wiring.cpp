@@ -295,10 +295,6 @@ void numberEvents(const std::vector<Component*>& components, EventSimulator& sim
     for (const Event& event : events) simulator.numberOf(event);
 }
 
-}  // namespace
-
-namespace {
-
 /// A small board is in the caches anyway.
 constexpr std::size_t kLargeBoard = 500;
 

@@ -121,32 +121,25 @@ private:
     std::array<std::uint64_t, kMostWords> letters_;
 };
 
-/// The drivers of nets that Inouts join as a whole, bit ranges nowhere: each bit has the same ones.
-class WholeWalk {
-public:
-    /// False if there are bit ranges, or ports of another width, somewhere.
-    static bool addDrivers(const Net& net, Time time, Lanes& lanes) {
-        const CreationNumber walk;
-        net.isNewTo(walk);
-        std::vector<const Net*> open = {&net};
-        while (!open.empty()) {
-            const Net& next = *open.back();
-            open.pop_back();
-            if (next.hasPinSpecs() || next.width() != net.width()) return false;
-            for (const Port* driver : next.roles().drivers) {
-                if (driver->width() != net.width()) return false;
-                lanes.add(*driver, time);
-            }
-            for (const Port* inout : next.roles().inouts) {
-                if (inout->width() != net.width()) return false;
-                if (next.isDriver(*inout)) lanes.add(*inout, time);
-                const Net* other = next.otherNet(*inout);
-                if (other != nullptr && other->isNewTo(walk)) open.push_back(other);
-            }
+/// Adds the drivers of the net and of all that Inouts join to it; each bit has the same ones. False if there are bit
+/// ranges, or ports of another width, somewhere: then bits differ.
+bool addWholeDrivers(const Net& net, Time time, Lanes& lanes) {
+    const CreationNumber walk;
+    net.isNewTo(walk);
+    std::vector<const Net*> open = {&net};
+    while (!open.empty()) {
+        const Net& next = *open.back();
+        open.pop_back();
+        if (!next.roles().isWhole || next.width() != net.width()) return false;
+        for (const Port* driver : next.roles().drivers) lanes.add(*driver, time);
+        for (const Port* inout : next.roles().inouts) {
+            if (next.isDriver(*inout)) lanes.add(*inout, time);
+            const Net* other = next.otherNet(*inout);
+            if (other != nullptr && other->isNewTo(walk)) open.push_back(other);
         }
-        return true;
     }
-};
+    return true;
+}
 
 }  // namespace
 
@@ -157,7 +150,7 @@ Value NetResolver::resolve(const Net& net, Time time) {
             for (const Port* driver : net.roles().drivers) lanes.add(*driver, time);
             return lanes.state();
         }
-        if (WholeWalk::addDrivers(net, time, lanes)) return lanes.state();
+        if (addWholeDrivers(net, time, lanes)) return lanes.state();
     }
     Value value(net.width());
     for (std::uint32_t i = 0; i < net.width(); ++i) {
