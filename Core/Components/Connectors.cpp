@@ -1,10 +1,22 @@
 #include "Core/Components/Connectors.h"
 
+#include <algorithm>
+#include <array>
+
 #include "Core/Components/PartParameters.h"
 #include "Core/Support/Error.h"
 #include "Core/Support/Text.h"
 
 namespace tarnsim {
+
+namespace {
+
+bool isAscending(const std::vector<std::int32_t>& bits) {
+    return std::ranges::adjacent_find(bits, [](std::int32_t bit, std::int32_t next) { return next != bit + 1; }) ==
+           bits.end();
+}
+
+}  // namespace
 
 Connector::Connector(const PartInfo& info, const std::string& name, const ParaMap& parameters)
     : Component(std::string(info.typeName), name, parameters) {}
@@ -36,7 +48,8 @@ void Connector::declarePorts(const std::string& sizeKey, std::uint32_t size, Dir
                         getName().c_str(), name.c_str(), bits->size(), kMaxValueWidth);
         }
         Port* port = createPort(static_cast<std::uint32_t>(bits->size()), direction, name);
-        mappings_.push_back({port, std::move(bits)});
+        const bool isRun = isAscending(bits->getBits());
+        mappings_.push_back({port, std::move(bits), isRun});
     }
 }
 
@@ -95,12 +108,19 @@ void Split::inputChanged(Port* /*port*/, const Value& /*oldValue*/, const Value&
 }
 
 void Split::evaluate(Time time) {
-    const Value whole = in->get(time);
+    std::array<char, kMaxValueWidth> whole;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
+    std::array<char, kMaxValueWidth> part;   // NOLINT(cppcoreguidelines-pro-type-member-init): the same
+    in->lettersAt(time, whole.data());
+    const std::size_t last = in->width() - std::size_t{1};
     for (const Mapping& mapping : mappings()) {
-        if (mapping.port->width() == 0) continue;  // declared without any text: it has nothing to show
-        Value part(mapping.port->width());
-        for (std::size_t i = 0; i < part.width(); ++i) part[i] = whole[mapping.busBit(i)];
-        mapping.port->set(part, time);
+        const std::size_t width = mapping.port->width();
+        if (width == 0) continue;  // declared without any text: it has nothing to show
+        if (mapping.isRun) {
+            mapping.port->setLetters({&whole[last - mapping.busBit(width - 1)], width}, time);
+        } else {
+            for (std::size_t i = 0; i < width; ++i) part[width - 1 - i] = whole[last - mapping.busBit(i)];
+            mapping.port->setLetters({part.data(), width}, time);
+        }
     }
 }
 

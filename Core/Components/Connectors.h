@@ -35,6 +35,7 @@ protected:
     struct Mapping {
         Port* port;
         std::unique_ptr<const PinSpec> bits;  ///< bit i of the port is this bit of the bus
+        bool isRun;                           ///< they lie beside each other on the bus, in the same order
 
         std::size_t busBit(std::size_t i) const { return static_cast<std::size_t>(bits->bitAt(i)); }
     };

@@ -1,5 +1,7 @@
 #include "Core/Components/Memories.h"
 
+#include <optional>
+
 #include "Core/Circuit/Circuit.h"
 #include "Core/Support/TLog.h"
 
@@ -32,10 +34,11 @@ void MC27C64::evaluate(Time time) {
     const Time then = inputTime(time);
     const char cs = CS.level(then);
     const char oe = OE.level(then);
-    const Value address = A.get(then);
-    if (cs == 'H' || (cs == 'L' && oe == 'H')) return D.set(Value("ZZZZZZZZ"), time);
-    if (cs == 'L' && oe == 'L' && address.isDefined()) return D.set(read(address.toNumber(), time), time);
-    D.set(Value("UUUUUUUU"), time);
+    if (cs == 'H' || (cs == 'L' && oe == 'H')) return D.setLetters("ZZZZZZZZ", time);
+    if (cs == 'L' && oe == 'L') {
+        if (const auto address = A.numberAt(then)) return D.setLetters(words_[*address % kSize].letters(), time);
+    }
+    D.setLetters("UUUUUUUU", time);
 }
 
 void HM62256B::load(const Circuit* owner) {
@@ -58,27 +61,31 @@ void HM62256B::evaluate(Time time) {
     const char we = WE.level(then);
     const char oe = OE.level(then);
     const auto output = [&] {
-        if (cs == 'H') return Value("ZZZZZZZZ");
-        if (cs != 'L') return Value("UUUUUUUU");
-        if (we == 'L') return Value(isLevel(oe) ? "ZZZZZZZZ" : "UUUUUUUU");
-        if (we == 'H' && oe == 'H') return Value("ZZZZZZZZ");
-        const Value address = A.get(then);
-        if (we == 'H' && oe == 'L' && address.isDefined()) return read(address.toNumber(), then);
-        return Value("UUUUUUUU");
+        if (cs == 'H') return "ZZZZZZZZ";
+        if (cs != 'L') return "UUUUUUUU";
+        if (we == 'L') return isLevel(oe) ? "ZZZZZZZZ" : "UUUUUUUU";
+        if (we == 'H' && oe == 'H') return "ZZZZZZZZ";
+        return "UUUUUUUU";
     };
-    Dout.set(output(), time);
+    const bool isRead = cs == 'L' && we == 'H' && oe == 'L';
+    const auto address = isRead ? A.numberAt(then) : std::nullopt;
+    if (address) {
+        Dout.setLetters(read(*address, then).letters(), time);
+    } else {
+        Dout.setLetters(output(), time);
+    }
     if (cs == 'L' && we == 'L') writeFromPins(time);
 }
 
 void HM62256B::writeFromPins(Time time) {
     const Time then = inputTime(time);
-    const Value address = A.get(then);
-    if (!address.isDefined()) {
+    const auto address = A.numberAt(then);
+    if (!address) {
         const TLog line("*** WARNING: writing to memory '%s' ('%s') with unstable address at time=%d!!",
                         getName().c_str(), getType().c_str(), time);
         return;
     }
-    write(Din.get(then), address.toNumber(), time);
+    write(Din.get(then), *address, time);
 }
 
 }  // namespace tarnsim

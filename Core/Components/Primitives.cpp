@@ -96,9 +96,9 @@ void Demux1to4::evaluate(Time time) {
         case 'L': break;
         default: return;
     }
-    const Value select = selectBits(then);
-    if (select.contains('U')) return write("UUUU", time);
-    switch (select.toNumber()) {
+    const std::array<char, 2> select = selectBits(then);
+    if (select[0] == 'U' || select[1] == 'U') return write("UUUU", time);
+    switch (Value::ofLetters({select.data(), select.size()}).toNumber()) {
         case 0: return write("HHHL", time);
         case 1: return write("HHLH", time);
         case 2: return write("HLHH", time);
@@ -106,18 +106,17 @@ void Demux1to4::evaluate(Time time) {
     }
 }
 
-Value Demux1to4::selectBits(Time time) const {
-    if (S != nullptr) return S->get(time);
-    Value bits(2);
-    for (std::size_t i = 0; i < s.size(); ++i) bits[i] = s[i]->level(time);
+std::array<char, 2> Demux1to4::selectBits(Time time) const {
+    if (S == nullptr) return {s[1]->level(time), s[0]->level(time)};
+    std::array<char, 2> bits{};
+    S->lettersAt(time, bits.data());
     return bits;
 }
 
 /// The last of the four letters is for the output with the number 0.
 void Demux1to4::write(std::string_view letters, Time time) {
-    const Value value(letters);
-    if (Y != nullptr) return Y->set(value, time);
-    for (std::size_t i = 0; i < y.size(); ++i) y[i]->setLevel(value[i], time);
+    if (Y != nullptr) return Y->setLetters(letters, time);
+    for (std::size_t i = 0; i < y.size(); ++i) y[i]->setLevel(letters[y.size() - 1 - i], time);
 }
 
 }  // namespace tarnsim

@@ -89,7 +89,8 @@ public:
 
 private:
     void makePorts(bool busIo);
-    Value selectBits(Time time) const;
+    /// The more significant one first.
+    std::array<char, 2> selectBits(Time time) const;
     void write(std::string_view letters, Time time);
 
     Pin& x = inputPin("x");

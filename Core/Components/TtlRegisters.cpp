@@ -60,9 +60,9 @@ void SN74x273::evaluate(Time time) {
     edges_.evaluatedAt(time);
 
     switch (CLR.level(then)) {
-        case 'L': state_ = "LLLLLLLL"; return Q.set(state_, time);
-        case 'H': return Q.set(state_, time);
-        default: return Q.set(Value("UUUUUUUU"), time);
+        case 'L': state_ = "LLLLLLLL"; return Q.setLetters(state_.letters(), time);
+        case 'H': return Q.setLetters(state_.letters(), time);
+        default: return Q.setLetters("UUUUUUUU", time);
     }
 }
 
@@ -89,9 +89,9 @@ void DM74x574::evaluate(Time time) {
     edges_.evaluatedAt(time);
 
     switch (OE.level(then)) {
-        case 'H': return Q.set(Value("ZZZZZZZZ"), time);
-        case 'U': return Q.set(Value("UUUUUUUU"), time);
-        case 'L': return Q.set(state_, time);
+        case 'H': return Q.setLetters("ZZZZZZZZ", time);
+        case 'U': return Q.setLetters("UUUUUUUU", time);
+        case 'L': return Q.setLetters(state_.letters(), time);
         default: return;
     }
 }

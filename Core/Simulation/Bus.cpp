@@ -1,53 +1,74 @@
 #include "Core/Simulation/Bus.h"
 
-#include <algorithm>
-
 #include "Core/Simulation/Port.h"
 
 namespace tarnsim {
+
+void Bus::Lanes::add(LetterWord word) {
+    const std::uint64_t driven = ~word.equalTo('Z');
+    active += LetterWord::kOnes & driven;
+    letters ^= word.bytes() & driven;
+}
+
+void Bus::Lanes::remove(LetterWord word) {
+    const std::uint64_t driven = ~word.equalTo('Z');
+    active -= LetterWord::kOnes & driven;
+    letters ^= word.bytes() & driven;
+}
+
+LetterWord Bus::Lanes::state() const {
+    const std::uint64_t floating = LetterWord(active).equalTo('\0');
+    const std::uint64_t known = LetterWord(active).equalTo('\1') & LetterWord(letters).levels();
+    return LetterWord((floating & LetterWord::allOf('Z').bytes()) | (known & letters) |
+                      (~(floating | known) & LetterWord::allOf(kUndefinedBit).bytes()));
+}
 
 Bus::Bus(Wire& wire, std::span<Port* const> drivers)
     : wire_(wire),
       drivers_(drivers),
       width_(drivers.front()->width()),
-      active_(width_),
-      letters_(width_),
-      state_(width_),
-      former_(width_) {}
+      lanes_((width_ + LetterWord::kLetters - 1) / LetterWord::kLetters),
+      shown_(lanes_.size() * drivers.size(), LetterWord::allOf('Z')),
+      past_(lanes_.size()),
+      letters_(width_) {}
 
 void Bus::join() {
     wire_.joinBus(this);
-    for (Port* driver : drivers_) driver->joinBus(this);
-    count(latest_);
+    std::uint32_t place = 0;
+    for (Port* driver : drivers_) driver->joinBus(this, place++);
+    for (const Port* driver : drivers_) {
+        driver->lettersAt(latest_, letters_.data());
+        note(*driver, letters_.data());
+    }
 }
 
-void Bus::add(const char* letters, bool isAdded) {
-    for (std::size_t i = 0; i < width_; ++i) {
-        const auto isActive = static_cast<std::uint8_t>(letters[i] != 'Z');
-        active_[i] = static_cast<std::uint8_t>(isAdded ? active_[i] + isActive : active_[i] - isActive);
-        letters_[i] = static_cast<char>(letters_[i] ^ (isActive != 0 ? letters[i] : 0));
+/// What the driver shows at the latest time.
+void Bus::note(const Port& driver, const char* letters) {
+    LetterWord* shown = &shown_[driver.getBusPlace() * lanes_.size()];
+    for (std::size_t i = 0; i < lanes_.size(); ++i) {
+        const auto word = LetterWord::load(letters + i * LetterWord::kLetters, lettersIn(i));
+        if (word.bytes() == shown[i].bytes()) continue;
+        lanes_[i].remove(shown[i]);
+        lanes_[i].add(word);
+        shown[i] = word;
     }
 }
 
 void Bus::count(Time time) {
-    std::ranges::fill(active_, 0);
-    std::ranges::fill(letters_, 0);
+    std::ranges::fill(past_, Lanes());
     for (const Port* driver : drivers_) {
-        driver->lettersAt(time, former_.data());
-        add(former_.data(), true);
+        driver->lettersAt(time, letters_.data());
+        for (std::size_t i = 0; i < past_.size(); ++i) {
+            past_[i].add(LetterWord::load(&letters_[i * LetterWord::kLetters], lettersIn(i)));
+        }
     }
 }
 
-std::string_view Bus::state() {
-    for (std::size_t i = 0; i < width_; ++i) {
-        const char letter = active_[i] == 1 && isLevel(letters_[i]) ? letters_[i] : kUndefinedBit;
-        state_[i] = active_[i] == 0 ? 'Z' : letter;
+bool Bus::show(const std::vector<Lanes>& lanes, Time time) {
+    for (std::size_t i = 0; i < lanes.size(); ++i) {
+        lanes[i].state().store(&letters_[i * LetterWord::kLetters], lettersIn(i));
     }
-    return {state_.data(), width_};
-}
-
-bool Bus::show(Time time) {
-    const std::string_view letters = state();
+    const std::string_view letters(letters_.data(), width_);
     const bool isShown = wire_.passes(letters);
     if (isShown) {
         wire_.set(letters, time);
@@ -58,21 +79,16 @@ bool Bus::show(Time time) {
 }
 
 bool Bus::set(Port& driver, std::string_view letters, Time time) {
-    if (time < latest_) {
-        driver.recordLetters(letters, time);
-        count(time);
-        const bool isShown = show(time);
-        count(latest_);
-        return isShown;
-    }
-    driver.lettersAt(time, former_.data());
     driver.recordLetters(letters, time);
-    latest_ = time;
-    if (letters != std::string_view(former_.data(), width_)) {
-        add(former_.data(), false);
-        add(letters.data(), true);
+    if (time >= latest_) {
+        latest_ = time;
+        note(driver, letters.data());
+        return show(lanes_, time);
     }
-    return show(time);
+    driver.lettersAt(latest_, letters_.data());
+    note(driver, letters_.data());
+    count(time);
+    return show(past_, time);
 }
 
 void Bus::cut() {

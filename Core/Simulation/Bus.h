@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -7,6 +8,7 @@
 #include <vector>
 
 #include "Core/Simulation/Wire.h"
+#include "Core/Values/LetterWord.h"
 #include "Core/Values/Time.h"
 
 namespace tarnsim {
@@ -39,21 +41,33 @@ public:
     void cut();
 
 private:
+    /// Eight bits of the net in the order of the letters, a byte each: how many drivers aren't at `Z`, and their
+    /// letters, combined by exclusive or: of one driver, its letter.
+    struct Lanes {
+        std::uint64_t active = 0;
+        std::uint64_t letters = 0;
+
+        void add(LetterWord word);
+        void remove(LetterWord word);
+        LetterWord state() const;
+    };
+
+    std::size_t lettersIn(std::size_t word) const {
+        return std::min(LetterWord::kLetters, width_ - word * LetterWord::kLetters);
+    }
+    void note(const Port& driver, const char* letters);
     /// Counts anew what the drivers show at `time`.
     void count(Time time);
-    void add(const char* letters, bool isAdded);
-    bool show(Time time);
-    std::string_view state();
+    bool show(const std::vector<Lanes>& lanes, Time time);
 
     Wire& wire_;
     std::span<Port* const> drivers_;
     std::size_t width_;
-    Time latest_ = kEarliestTime;  ///< of all that was set
-    // For each bit, in the order of the letters:
-    std::vector<std::uint8_t> active_;  ///< how many drivers aren't at `Z`
-    std::vector<char> letters_;         ///< their letters, combined by exclusive or: of one driver, its letter
-    std::vector<char> state_;
-    std::vector<char> former_;  ///< what the driver that is being set had before
+    Time latest_ = kEarliestTime;    ///< of all that was set
+    std::vector<Lanes> lanes_;       ///< at that time
+    std::vector<LetterWord> shown_;  ///< by the drivers at that time, one after the other
+    std::vector<Lanes> past_;        ///< at an earlier time, while one is looked at
+    std::vector<char> letters_;      ///< of one signal, while one is looked at
 };
 
 }  // namespace tarnsim

@@ -1,11 +1,14 @@
 #include "Core/Simulation/Port.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 #include "Core/Simulation/Bus.h"
 #include "Core/Simulation/Net.h"
 #include "Core/Support/Error.h"
 #include "Core/Support/TLog.h"
+#include "Core/Values/LetterWord.h"
 
 namespace tarnsim {
 
@@ -26,13 +29,23 @@ Port::~Port() {
 }
 
 void Port::set(const Value& value, Time time) {
-    if (drivenWire_ != nullptr && value.width() == width() && drivenWire_->passes(value.letters())) {
-        return drivenWire_->set(value.letters(), time);
+    if (setTogether(value.letters(), time)) return;
+    if (Net* net = recordAlone(value, time)) net->update(time);
+}
+
+void Port::setLetters(std::string_view letters, Time time) {
+    if (!setTogether(letters, time)) set(Value::ofLetters(letters), time);
+}
+
+bool Port::setTogether(std::string_view letters, Time time) {
+    if (letters.size() != width()) return false;
+    if (drivenWire_ != nullptr && drivenWire_->passes(letters)) {
+        drivenWire_->set(letters, time);
+        return true;
     }
-    const bool isOnBus = drivenBus_ != nullptr && value.width() == width();
-    if (isOnBus && drivenBus_->set(*this, value.letters(), time)) return;
-    Net* net = isOnBus ? farNet() : recordAlone(value, time);
-    if (net != nullptr) net->update(time);
+    if (drivenBus_ == nullptr) return false;
+    if (!drivenBus_->set(*this, letters, time)) farNet()->update(time);
+    return true;
 }
 
 Net* Port::follow(const Value& value, Time time) {
@@ -80,11 +93,35 @@ void Port::leaveWire() {
 }
 
 void Port::lettersAt(Time time, char* letters) const {
-    if (wireRecords_ == nullptr && direction_ != Direction::Inout && readNet() == nullptr) {
-        return recordedLetters(time, letters);
+    if (wireRecords_ != nullptr) {
+        const char* recorded = wireRecords_->lettersInForceAt(time);
+        if (recorded == nullptr) {
+            std::fill_n(letters, width(), kUndefinedBit);
+        } else {
+            std::copy_n(recorded, width(), letters);
+            if (ztr_ && readNet() != nullptr) std::replace(letters, letters + width(), 'Z', kUndefinedBit);
+        }
+    } else if (direction_ != Direction::Inout && readNet() == nullptr) {
+        recordedLetters(time, letters);
+    } else {
+        get(time).letters().copy(letters, width());
+    }
+}
+
+std::optional<std::uint32_t> Port::numberAt(Time time) const {
+    // Nearly all buses that are read as a number are addresses or bytes at some level.
+    constexpr std::size_t kMost = 2 * LetterWord::kLetters;
+    if (width() <= kMost) {
+        std::array<char, kMost> letters;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
+        letters.fill('L');
+        lettersAt(time, letters.data() + kMost - width());
+        const auto high = LetterWord::load(letters.data(), LetterWord::kLetters);
+        const auto low = LetterWord::load(letters.data() + LetterWord::kLetters, LetterWord::kLetters);
+        if (~(high.levels() & low.levels()) == 0) return std::uint32_t{high.toNumber()} << 8U | low.toNumber();
+        if (std::ranges::any_of(letters, isUndefinedLetter)) return std::nullopt;
     }
     const Value value = get(time);
-    value.letters().copy(letters, width());
+    return value.isDefined() ? std::optional(value.toNumber()) : std::nullopt;
 }
 
 void Port::rolesChange() {
@@ -160,6 +197,7 @@ void Port::disconnect(int side) {
 }
 
 void Port::refresh(Time time) {
+    if (drivenWire_ != nullptr) return drivenWire_->refresh(time);
     set(get(time), time);
 }
 

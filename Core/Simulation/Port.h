@@ -3,7 +3,9 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Core/Simulation/Wire.h"
@@ -50,8 +52,13 @@ public:
     /// net, but inside its own records if it has any. Unless ztrOff, a `Z` read through a net or by an Inout is `U`.
     Value get(Time time) const override;
 
-    /// The letters of `get`, as many as the port has bits, without a Value around them.
+    // The same without a Value around the letters, for parts with buses.
+
+    void setLetters(std::string_view letters, Time time);
+    /// The letters of `get`, as many as the port has bits.
     void lettersAt(Time time, char* letters) const;
+    /// The number that `get` gives; nothing if it isn't defined.
+    std::optional<std::uint32_t> numberAt(Time time) const;
 
     /// What the drivers of the net on `side` put on it; all `U` where there is no net.
     virtual Value driveValue(Time time, int side) const;
@@ -85,9 +92,14 @@ public:
 
     void joinWire(Wire* wire, const std::shared_ptr<ValueRecords>& records);
     void leaveWire();
-    void joinBus(Bus* bus) { drivenBus_ = bus; }
+    /// `place` is the bus's own note.
+    void joinBus(Bus* bus, std::uint32_t place) {
+        drivenBus_ = bus;
+        busPlace_ = place;
+    }
     void leaveBus() { drivenBus_ = nullptr; }
     Bus* getBus() const { return drivenBus_; }
+    std::uint32_t getBusPlace() const { return busPlace_; }
     /// Makes a record and does nothing else.
     void recordLetters(std::string_view letters, Time time) { ownRecords().store(time, letters); }
     Wire* getWire() const { return wire_; }
@@ -97,6 +109,8 @@ public:
     const Net* readNet() const { return direction_ == Direction::Input ? outsideNet_ : insideNet_; }
     /// The net that resolves when this port is set; null if there is none.
     Net* farNet() const { return direction_ == Direction::Output ? outsideNet_ : insideNet_; }
+    /// What is set on this port, a wire takes.
+    bool drivesWire() const { return drivenWire_ != nullptr; }
 
 protected:
     void leaveSharedRecords() override { cutWire(); }
@@ -111,6 +125,8 @@ private:
     void cutWire();
     /// What this port is to its nets is about to change, or has changed.
     void rolesChange();
+    /// False if neither a wire nor a bus takes the letters.
+    bool setTogether(std::string_view letters, Time time);
     Net* recordAlone(const Value& value, Time time);
     Value readThrough(const Net& net, Time time) const;
     Value readInout(Time time) const;
@@ -120,6 +136,7 @@ private:
     Net* outsideNet_ = nullptr;  ///< not owned
     Net* insideNet_ = nullptr;   ///< not owned
     bool ztr_ = true;
+    std::uint32_t busPlace_ = 0;
     Wire* drivenWire_ = nullptr;                 ///< not owned
     Wire* wire_ = nullptr;                       ///< not owned; null while the port isn't part of one
     const ValueRecords* wireRecords_ = nullptr;  ///< not owned

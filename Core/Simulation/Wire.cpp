@@ -1,11 +1,13 @@
 #include "Core/Simulation/Wire.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "Core/Simulation/Bus.h"
 #include "Core/Simulation/Net.h"
 #include "Core/Simulation/Port.h"
+#include "Core/Values/LetterWord.h"
 
 namespace tarnsim {
 
@@ -28,7 +30,14 @@ void Wire::join(const std::shared_ptr<void>& owner) {
 }
 
 bool Wire::passes(std::string_view letters) const {
-    return std::ranges::all_of(letters, [this](char letter) { return passes(letter); });
+    for (std::size_t i = 0; i < letters.size(); i += LetterWord::kLetters) {
+        const std::size_t count = std::min(LetterWord::kLetters, letters.size() - i);
+        const auto word = LetterWord::load(letters.data() + i, count);
+        const std::uint64_t passing =
+            word.levels() | word.equalTo(kUndefinedBit) | (passesZ_ ? word.equalTo('Z') : std::uint64_t{0});
+        if ((~passing & LetterWord::first(count)) != 0) return false;
+    }
+    return true;
 }
 
 void Wire::set(std::string_view letters, Time time) {
@@ -37,6 +46,19 @@ void Wire::set(std::string_view letters, Time time) {
                                             : letters != std::string_view(before, letters.size());
     records_.store(time, letters);
     if (isChange) notify(time);
+}
+
+void Wire::refresh(Time time) {
+    // A copy, since entering a record moves others.
+    std::array<char, kMaxValueWidth> letters;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
+    const std::size_t width = driver_->width();
+    const char* recorded = records_.lettersInForceAt(time);
+    if (recorded == nullptr) {
+        std::fill_n(letters.data(), width, kUndefinedBit);
+    } else {
+        std::copy_n(recorded, width, letters.data());
+    }
+    records_.store(time, {letters.data(), width});
 }
 
 void Wire::cut() {

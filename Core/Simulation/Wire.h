@@ -66,6 +66,8 @@ public:
     // REQUIRES: as many letters as the signals have bits, and all of them pass
 
     void set(std::string_view letters, Time time);
+    /// Sets once more what the wire holds at `time`.
+    void refresh(Time time);
     void setLetter(char letter, Time time) {
         const bool isChange = records_.letterInForceAt(time, kUndefinedBit) != letter;
         records_.storeLetter(time, letter);

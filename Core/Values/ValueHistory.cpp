@@ -82,7 +82,12 @@ void ValueHistory::unsubscribe(ValueChangeSubscriber* subscriber) {
 }
 
 bool ValueHistory::isOneBitEdge(Time time, char before, char after) const {
-    return width_ == 1 && valueBefore(time) == before && recordedValue(time) == after;
+    if (width_ != 1 || time == kEarliestTime) return false;
+    char letter = kUndefinedBit;
+    recordedLetters(time - 1, &letter);
+    if (letter != before) return false;
+    recordedLetters(time, &letter);
+    return letter == after;
 }
 
 bool ValueHistory::risingEdgeAt(Time time) const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -9,6 +11,7 @@
 #include "Core/Components/PartInfo.h"
 #include "Core/Simulation/Net.h"
 #include "Core/Simulation/Port.h"
+#include "Core/Values/LetterWord.h"
 
 namespace tarnsim {
 
@@ -100,20 +103,37 @@ public:
     }
 
 protected:
+    using Byte = std::array<char, 8>;
+    using Address = std::array<char, 16>;
+
+    static constexpr Byte byteOf(char letter) {
+        Byte letters{};
+        letters.fill(letter);
+        return letters;
+    }
     /// Sets `port` at a time that may lie behind kLatestTime, which is never.
-    static void setAt(Port& port, const Value& value, std::int64_t time) {
-        if (time <= kLatestTime) port.set(value, static_cast<Time>(time));
+    template <std::size_t width>
+    static void setAt(Port& port, const std::array<char, width>& letters, std::int64_t time) {
+        if (time <= kLatestTime) port.setLetters({letters.data(), width}, static_cast<Time>(time));
     }
-    static void setAt(Port& port, char letter, std::int64_t time) { setAt(port, Value(letter, 1), time); }
+    static void setAt(Port& pin, char letter, std::int64_t time) { setAt(pin, std::array{letter}, time); }
     /// Undefined when the old value's hold ends, the new value when it's set up; both counted from `base`.
-    void schedule(Port& port, const Value& value, Time base) const {
-        setAt(port, Value(value.width()), std::int64_t{base} + t_ah);
-        setAt(port, value, std::int64_t{base} + t_ads);
+    void schedule(Port& port, const Address& letters, Time base) const {
+        constexpr Address kUndefined = [] {
+            Address undefined{};
+            undefined.fill(kUndefinedBit);
+            return undefined;
+        }();
+        setAt(port, kUndefined, std::int64_t{base} + t_ah);
+        setAt(port, letters, std::int64_t{base} + t_ads);
     }
-    void schedule(Port& port, bool isHigh, Time base) const { schedule(port, Value(isHigh ? 'H' : 'L', 1), base); }
+    void schedule(Port& pin, bool isHigh, Time base) const {
+        setAt(pin, kUndefinedBit, std::int64_t{base} + t_ah);
+        setAt(pin, isHigh ? 'H' : 'L', std::int64_t{base} + t_ads);
+    }
     using Component::schedule;
 
-    void releaseData() { d_write.set(Value("ZZZZZZZZ"), -1); }
+    void releaseData() { setAt(d_write, byteOf('Z'), -1); }
 
     /// Whatever isn't low doesn't count.
     void sampleLines(Time time) {
@@ -127,21 +147,23 @@ protected:
     /// One tick for a falling flank at `time`, with the data that the bus holds at `base`.
     void tickCore(Time time, Time base) {
         passResetGate(time);
-        const Value data = d_read.get(base);
-        if (isReadCycle() && data.isDefined()) {
-            pins_ = (pins_ & ~CyclePin::kData) | std::uint64_t{data.toNumber()} << CyclePin::kDataShift;
+        if (isReadCycle()) {
+            if (const auto data = d_read.numberAt(base)) {
+                pins_ = (pins_ & ~CyclePin::kData) | std::uint64_t{*data} << CyclePin::kDataShift;
+            }
         }
         pins_ = tick(&core_, pins_);
     }
-    Value addressValue() const {
-        Value value(16);
-        value.setNumber(static_cast<std::int32_t>(pins_ & CyclePin::kAddress));
-        return value;
+    Address addressLetters() const {
+        Address letters{};
+        LetterWord::ofNumber(static_cast<std::uint8_t>(pins_ >> 8U)).store(letters.data(), 8);
+        LetterWord::ofNumber(static_cast<std::uint8_t>(pins_)).store(letters.data() + 8, 8);
+        return letters;
     }
-    Value dataValue() const {
-        Value value(8);
-        value.setNumber(static_cast<std::int32_t>((pins_ & CyclePin::kData) >> CyclePin::kDataShift));
-        return value;
+    Byte dataLetters() const {
+        Byte letters{};
+        LetterWord::ofNumber(static_cast<std::uint8_t>(pins_ >> CyclePin::kDataShift)).store(letters.data(), 8);
+        return letters;
     }
     void driveClocks(Time time) {
         const char clock = PHI0.level(time);

@@ -23,7 +23,9 @@ public:
 private:
     void startCycle(Time time, Time base);
     void driveData(Time base);
-    void finish(Time time);
+    bool canRefreshFirst() const;
+    void refreshBusPins(Time time);
+    void finish(Time time, bool isRefreshed);
 };
 
 }  // namespace tarnsim

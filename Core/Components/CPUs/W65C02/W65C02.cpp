@@ -1,5 +1,7 @@
 #include "Core/Components/CPUs/W65C02/W65C02.h"
 
+#include <array>
+
 namespace tarnsim {
 
 W65C02::W65C02(const std::string& name, const ParaMap& parameters) : Processor(name, parameters) {
@@ -66,21 +68,24 @@ void W65C02::refreshInputPins(Time time) {
 /// `heldData` is what stands on the data lines of a write behind the hold of the last one.
 void W65C02::startCycle(Time time, Time base, char heldData) {
     tickCore(time, base);
-    setAt(internalData, Value(8).fill(isReadCycle() ? 'Z' : heldData), std::int64_t{time} + t_dhw);
-    schedule(internalAddress, addressValue(), base);
+    setAt(internalData, byteOf(isReadCycle() ? 'Z' : heldData), std::int64_t{time} + t_dhw);
+    schedule(internalAddress, addressLetters(), base);
     schedule(internalReadWrite, isReadCycle(), base);
     schedule(VP, (pins_ & CyclePin::kVp) == 0, base);
     schedule(SYNC, isSync(), base);
 }
 
 void W65C02::driveData(Time base) {
-    if (isWriteCycle()) setAt(internalData, dataValue(), std::int64_t{base} + t_mds);
+    if (isWriteCycle()) setAt(internalData, dataLetters(), std::int64_t{base} + t_mds);
 }
 
 /// What `signal` holds `delay` after `time` shows on the pins then.
 void W65C02::copy(Port& pin, const Port& signal, Time time, Time delay) {
     const std::int64_t due = std::int64_t{time} + delay;
-    if (due <= kLatestTime) pin.set(signal.get(static_cast<Time>(due)), static_cast<Time>(due));
+    if (due > kLatestTime) return;
+    std::array<char, kMaxValueWidth> letters;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
+    signal.lettersAt(static_cast<Time>(due), letters.data());
+    pin.setLetters({letters.data(), signal.width()}, static_cast<Time>(due));
 }
 
 void W65C02::finish(Time time) {
