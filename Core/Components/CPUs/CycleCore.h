@@ -124,6 +124,7 @@ inline std::uint64_t beginInstruction(CycleCore& c, std::uint64_t pins) {
 }
 
 inline void shiftPipelines(CycleCore& c) {
+    if ((c.irqPipeline | c.nmiPipeline) == 0) return;  // nearly always
     c.irqPipeline = static_cast<std::uint16_t>(c.irqPipeline << 1U);
     c.nmiPipeline = static_cast<std::uint16_t>(c.nmiPipeline << 1U);
 }

@@ -22,7 +22,7 @@ inline constexpr std::size_t kMostSteps = 8;
 /// The steps of one instruction, for a core with the record `Core`. Steps beyond its last are never reached.
 template <class Core>
 struct Program {
-    using Step = void (*)(Core&);
+    using Step = std::uint64_t (*)(Core&, std::uint64_t pins);
 
     std::array<Step, kMostSteps> steps{};
     std::size_t length = 0;
@@ -43,10 +43,13 @@ template <class Core, class OwnCycles>
 struct CommonSequences {
     using Program = tarnsim::Program<Core>;
 
-    /// One cycle: the actions in order.
+    /// One cycle: the actions in order. The mask comes and goes in a register; a tick that had to wait for the record
+    /// each time would take twice as long.
     template <auto... Actions>
-    static void step(Core& c) {
+    static std::uint64_t step(Core& c, std::uint64_t pins) {
+        c.pins = pins;
         (Actions(c), ...);
+        return c.pins;
     }
 
     template <auto Op>

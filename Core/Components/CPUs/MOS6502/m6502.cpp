@@ -218,7 +218,7 @@ constexpr InstructionSet kInstructions = instructions();
 static_assert(kInstructions.isComplete());
 
 /// One dispatch a tick.
-constexpr auto kSteps = kInstructions.flatten(unreachableStep);
+constexpr auto kSteps = kInstructions.flatten(Sequences::step<unreachableStep>);
 
 std::uint64_t withPort(const m6502& c, std::uint64_t pins) {
     return (pins & ~CyclePin::kPort) | ((std::uint64_t{c.ioPins} << CyclePin::kPortShift) & CyclePin::kPort);
@@ -241,12 +241,11 @@ std::uint64_t tick(m6502* c, std::uint64_t pins) {
             pins = beginInstruction(*c, pins);
         }
     }
-    c->pins = pins | CyclePin::kRW;
     const std::size_t next = c->ir++;
     if (next >= kSteps.size()) unreachableStep(*c);
-    kSteps[next](*c);
+    pins = kSteps[next](*c, pins | CyclePin::kRW);
     shiftPipelines(*c);
-    return c->pins = withPort(*c, c->pins);
+    return c->pins = withPort(*c, pins);
 }
 
 }  // namespace tarnsim

@@ -255,7 +255,7 @@ constexpr InstructionSet kInstructions = instructions();
 static_assert(kInstructions.isComplete());
 
 /// One dispatch a tick.
-constexpr auto kSteps = kInstructions.flatten(unreachableStep);
+constexpr auto kSteps = kInstructions.flatten(Sequences::step<unreachableStep>);
 
 std::uint64_t holdIrq(w65c02& c, std::uint64_t pins) {
     c.irqPipeline = static_cast<std::uint16_t>(c.irqPipeline << 1U);
@@ -279,12 +279,11 @@ std::uint64_t tick(w65c02* c, std::uint64_t pins) {
         if ((pins & CyclePin::kRdy) != 0) return holdIrq(*c, pins);
     }
     if ((pins & CyclePin::kSync) != 0) pins = beginInstruction(*c, pins);
-    c->pins = (pins | CyclePin::kRW) & ~CyclePin::kVp;
     const std::size_t next = c->ir++;
     if (next >= kSteps.size()) unreachableStep(*c);
-    kSteps[next](*c);
+    pins = kSteps[next](*c, (pins | CyclePin::kRW) & ~CyclePin::kVp);
     shiftPipelines(*c);
-    return c->pins;
+    return pins;
 }
 
 }  // namespace tarnsim
