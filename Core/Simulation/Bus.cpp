@@ -28,7 +28,8 @@ Bus::Bus(Wire& wire, std::span<Port* const> drivers)
       drivers_(drivers),
       width_(drivers.front()->width()),
       lanes_((width_ + LetterWord::kLetters - 1) / LetterWord::kLetters),
-      shown_(lanes_.size() * drivers.size(), LetterWord::allOf('Z')),
+      driven_(lanes_.size() * drivers.size(), LetterWord::allOf('Z')),
+      shown_(lanes_.size() * LetterWord::kLetters, kUndefinedBit),
       past_(lanes_.size()),
       letters_(width_) {}
 
@@ -44,13 +45,13 @@ void Bus::join() {
 
 /// What the driver shows at the latest time.
 void Bus::note(const Port& driver, const char* letters) {
-    LetterWord* shown = &shown_[driver.getBusPlace() * lanes_.size()];
+    LetterWord* driven = &driven_[driver.getBusPlace() * lanes_.size()];
     for (std::size_t i = 0; i < lanes_.size(); ++i) {
         const auto word = LetterWord::load(letters + i * LetterWord::kLetters, lettersIn(i));
-        if (word.bytes() == shown[i].bytes()) continue;
-        lanes_[i].remove(shown[i]);
+        if (word == driven[i]) continue;
+        lanes_[i].remove(driven[i]);
         lanes_[i].add(word);
-        shown[i] = word;
+        driven[i] = word;
     }
 }
 
@@ -64,31 +65,47 @@ void Bus::count(Time time) {
     }
 }
 
-bool Bus::show(const std::vector<Lanes>& lanes, Time time) {
-    for (std::size_t i = 0; i < lanes.size(); ++i) {
-        lanes[i].state().store(&letters_[i * LetterWord::kLetters], lettersIn(i));
+bool Bus::isSettled(Time time) const {
+    for (std::size_t i = 0; i < lanes_.size(); ++i) {
+        const char* shown = &shown_[i * LetterWord::kLetters];
+        if (lanes_[i].state() != LetterWord::load(shown, LetterWord::kLetters)) return false;
     }
-    const std::string_view letters(letters_.data(), width_);
-    const bool isShown = wire_.passes(letters);
-    if (isShown) {
-        wire_.set(letters, time);
-    } else {
-        cut();
-    }
-    return isShown;
+    return latest_ <= time;
 }
 
 bool Bus::set(Port& driver, std::string_view letters, Time time) {
     driver.recordLetters(letters, time);
-    if (time >= latest_) {
-        latest_ = time;
-        note(driver, letters.data());
-        return show(lanes_, time);
+    if (time < latest_) return setPast(driver, time);
+    latest_ = time;
+    note(driver, letters.data());
+    bool isChange = false;
+    for (std::size_t i = 0; i < lanes_.size(); ++i) {
+        char* shown = &shown_[i * LetterWord::kLetters];
+        const LetterWord state = lanes_[i].state();
+        if (state == LetterWord::load(shown, LetterWord::kLetters)) continue;
+        state.store(shown, LetterWord::kLetters);
+        isChange = true;
     }
+    if (!isChange) {
+        wire_.repeat({shown_.data(), width_}, time);
+    } else if (!wire_.change({shown_.data(), width_}, time)) {
+        cut();
+        return false;
+    }
+    return true;
+}
+
+/// The rest of `set` for a time before the latest. Other drivers may have been set since.
+bool Bus::setPast(Port& driver, Time time) {
     driver.lettersAt(latest_, letters_.data());
     note(driver, letters_.data());
     count(time);
-    return show(past_, time);
+    for (std::size_t i = 0; i < past_.size(); ++i) {
+        past_[i].state().store(&letters_[i * LetterWord::kLetters], lettersIn(i));
+    }
+    const bool isShown = wire_.set({letters_.data(), width_}, time);
+    if (!isShown) cut();
+    return isShown;
 }
 
 void Bus::cut() {

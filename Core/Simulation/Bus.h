@@ -37,6 +37,9 @@ public:
     /// it comes to a `Z` that gets no further than the next port: the bus has been cut then. REQUIRES: `driver` is one
     /// of the drivers and `letters` are as many as it has bits
     bool set(Port& driver, std::string_view letters, Time time);
+    /// Nothing was set for a later time than `time`, and the net shows what the drivers come to. (It doesn't where one
+    /// of them was set for a time before the latest.)
+    bool isSettled(Time time) const;
     /// Lets go of all signals, those of the wire too.
     void cut();
 
@@ -58,16 +61,17 @@ private:
     void note(const Port& driver, const char* letters);
     /// Counts anew what the drivers show at `time`.
     void count(Time time);
-    bool show(const std::vector<Lanes>& lanes, Time time);
+    bool setPast(Port& driver, Time time);
 
     Wire& wire_;
     std::span<Port* const> drivers_;
     std::size_t width_;
-    Time latest_ = kEarliestTime;    ///< of all that was set
-    std::vector<Lanes> lanes_;       ///< at that time
-    std::vector<LetterWord> shown_;  ///< by the drivers at that time, one after the other
-    std::vector<Lanes> past_;        ///< at an earlier time, while one is looked at
-    std::vector<char> letters_;      ///< of one signal, while one is looked at
+    Time latest_ = kEarliestTime;     ///< of all that was set
+    std::vector<Lanes> lanes_;        ///< at that time
+    std::vector<LetterWord> driven_;  ///< by the drivers at that time, one after the other
+    std::vector<char> shown_;         ///< by the net at that time; whole words
+    std::vector<Lanes> past_;         ///< at an earlier time, while one is looked at
+    std::vector<char> letters_;       ///< of one signal, while one is looked at
 };
 
 }  // namespace tarnsim

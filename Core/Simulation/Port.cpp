@@ -39,20 +39,14 @@ void Port::setLetters(std::string_view letters, Time time) {
 
 bool Port::setTogether(std::string_view letters, Time time) {
     if (letters.size() != width()) return false;
-    if (drivenWire_ != nullptr && drivenWire_->passes(letters)) {
-        drivenWire_->set(letters, time);
-        return true;
-    }
+    if (drivenWire_ != nullptr && drivenWire_->set(letters, time)) return true;
     if (drivenBus_ == nullptr) return false;
     if (!drivenBus_->set(*this, letters, time)) farNet()->update(time);
     return true;
 }
 
 Net* Port::follow(const Value& value, Time time) {
-    if (wire_ != nullptr && wire_->driver() == this && wire_->passes(value.letters())) {
-        wire_->set(value.letters(), time);
-        return nullptr;
-    }
+    if (wire_ != nullptr && wire_->driver() == this && wire_->set(value.letters(), time)) return nullptr;
     return recordAlone(value, time);
 }
 
@@ -199,6 +193,10 @@ void Port::disconnect(int side) {
 void Port::refresh(Time time) {
     if (drivenWire_ != nullptr) return drivenWire_->refresh(time);
     set(get(time), time);
+}
+
+bool Port::isSettled(Time time) const {
+    return drivenWire_ != nullptr || (drivenBus_ != nullptr && drivenBus_->isSettled(time));
 }
 
 void Port::setOptions(const std::map<std::string, std::string>& options) {

@@ -111,6 +111,8 @@ public:
     Net* farNet() const { return direction_ == Direction::Output ? outsideNet_ : insideNet_; }
     /// What is set on this port, a wire takes.
     bool drivesWire() const { return drivenWire_ != nullptr; }
+    /// What is set on this port, a wire or a bus takes, and a refresh at `time` makes records but changes nothing.
+    bool isSettled(Time time) const;
 
 protected:
     void leaveSharedRecords() override { cutWire(); }

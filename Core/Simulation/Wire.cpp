@@ -40,12 +40,25 @@ bool Wire::passes(std::string_view letters) const {
     return true;
 }
 
-void Wire::set(std::string_view letters, Time time) {
+bool Wire::set(std::string_view letters, Time time) {
+    if (letters.size() == 1) {
+        const bool isPassed = passes(letters.front());
+        if (isPassed) setLetter(letters.front(), time);
+        return isPassed;
+    }
     const char* before = records_.lettersInForceAt(time);
     const bool isChange = before == nullptr ? letters.find_first_not_of(kUndefinedBit) != std::string_view::npos
                                             : letters != std::string_view(before, letters.size());
+    if (isChange) return change(letters, time);
+    repeat(letters, time);
+    return true;
+}
+
+bool Wire::change(std::string_view letters, Time time) {
+    if (!passes(letters)) return false;
     records_.store(time, letters);
-    if (isChange) notify(time);
+    notify(time);
+    return true;
 }
 
 void Wire::refresh(Time time) {

@@ -44,6 +44,7 @@ public:
     }
 
     constexpr std::uint64_t bytes() const { return bytes_; }
+    constexpr bool operator==(const LetterWord&) const = default;
 
     // Masks: 0xFF for each letter of which something is true, 0 for the others.
 

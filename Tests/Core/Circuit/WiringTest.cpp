@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "Core/Components/Memories.h"
 #include "Core/Simulation/EventSimulator.h"
 #include "Core/Simulation/Wire.h"
 #include "Tests/Core/Circuit/CircuitTestSupport.h"
@@ -79,6 +80,94 @@ TEST(Wiring, NobodyCanTellWiredSignalsFromOthers) {
         if (results[true].error.empty()) ++runs;
     }
     EXPECT_GT(runs, 50);
+}
+
+/// A processor that runs a program from an EPROM and counts in a RAM, at 10 MHz.
+std::string computer(const std::string& processor, const std::string& times, std::uint32_t accessTime) {
+    const std::string readWrite = processor == "MOS6502" ? "_R/W" : "R/W";
+    std::string text = format(
+        "Pin Input _reset\n"
+        "Port Output 16 address\n"
+        "Pin Output sync\n"
+        "Unit Oscillator clock(frequency=10000000,offset=50)\n"
+        "Unit %s cpu(%s)\n"
+        "Unit 27C64 rom(delay=%u,rawfile=count.bin,rawaddress=0x1FE0)\n"
+        "Unit HM62256B ram(delay=%u)\n"
+        "Unit 74LS00 gates(delay=3)\n"
+        "Unit High high\n"
+        "Unit Split lines(in=16,high=15,ram=14:0,rom=12:0)\n"
+        "Net n_reset _reset cpu._RES\n"
+        "Net n_clock clock.out cpu.PHI0\n"
+        "Net n_sync sync cpu.SYNC\n"
+        "Net n_address address cpu.A lines.in\n"
+        "Net n_ram lines.ram ram.A\n"
+        "Net n_rom lines.rom rom.A\n"
+        "Net n_data cpu.D rom.D ram.Din ram.Dout\n"
+        "Net n_block lines.high ram._CS gates.A1 gates.B1\n"
+        "Net n_rom_select gates.Y1 rom._CS\n"
+        "Net n_rw cpu.%s gates.A2 gates.B2\n"
+        "Net n_write gates.Y2 gates.A3 rom._OE ram._OE\n"
+        "Net n_phi2 cpu.PHI2 gates.B3\n"
+        "Net n_strobe gates.Y3 ram._WE\n",
+        processor.c_str(), times.c_str(), accessTime, accessTime, readWrite.c_str());
+    text += "Net n_high high.out cpu._IRQ cpu._NMI cpu.RDY cpu._SO";
+    text += processor == "W65C02" ? " cpu.BE\n" : "\n";
+    return text;
+}
+
+/// At FFE0: `lda #0`, `sta $40`, and then `inc $40`, `lda $40`, `sta $41` over and over.
+const std::string kCountingProgram = [] {
+    std::string image("\xA9\x00\x85\x40\xE6\x40\xA5\x40\x85\x41\x4C\xE4\xFF", 13);
+    image.resize(0x1C);
+    return image + "\xE0\xFF";
+}();
+
+/// Processors set their pins for times to come and refresh them for the present, and memories that answer in between
+/// set the data bus for times before its latest.
+TEST(Wiring, NobodyCanTellTheWiresOfAComputerFromOthers) {
+    constexpr Time kEnd = 5000;
+    for (const char* processor : {"MOS6502", "W65C02"}) {
+        for (const char* times : {"t_ads=30,t_ah=10,t_mds=25,t_dhw=10", "t_ads=0,t_ah=0,t_mds=0,t_dhw=0",
+                                  "t_ads=9,t_ah=20,t_mds=5,t_dhw=30", "t_ads=30,t_ah=10,t_mds=25,t_dhw=0",
+                                  "t_ads=4,t_ah=2,t_mds=90,t_dhw=45", "t_ads=30,t_ah=4294967295,t_mds=25,t_dhw=10"}) {
+            for (const std::uint32_t accessTime : {0U, 3U, 15U}) {
+                SCOPED_TRACE(format("%s(%s), %u ns", processor, times, accessTime));
+                const Workplace here;
+                here.write("count.bin", kCountingProgram);
+                here.write("board.nlx", computer(processor, times, accessTime));
+                Listener listener;
+                std::map<bool, std::vector<std::string>> histories;
+                bool hasCounted = false;
+                for (const bool isWired : {true, false}) {
+                    std::unique_ptr<Circuit> board;
+                    streamsOf([&] {
+                        board = CircuitFileReader().load("board.nlx");
+                        if (!isWired) {
+                            visitSignals(*board, [&](ValueHistory& history) { history.subscribe(&listener); });
+                        }
+                        EventSimulator simulator(board.get());
+                        simulator.prepare(kEnd);
+                        board->findPort("_reset")->set(Value("L"), 0);
+                        board->findPort("_reset")->set(Value("H"), 420);
+                        simulator.run(kEnd);
+                        board->setSimulator(nullptr);
+                    });
+                    visitSignals(*board, [&](ValueHistory& history) {
+                        histories[isWired].push_back(everythingOf(history, kEnd));
+                    });
+                    const auto* ram = dynamic_cast<HM62256B*>(board->findComponent("ram"));
+                    hasCounted = ram->read(0x41, kEnd).isDefined();
+                }
+                ASSERT_EQ(histories[true].size(), histories[false].size());
+                for (std::size_t i = 0; i < histories[true].size(); ++i) {
+                    ASSERT_EQ(histories[true][i], histories[false][i]);
+                }
+                if (accessTime < 15 && std::string_view(times).starts_with("t_ads=30,t_ah=10,t_mds=25,t_dhw=10")) {
+                    EXPECT_TRUE(hasCounted);
+                }
+            }
+        }
+    }
 }
 
 /// An inverter in a circuit of its own, between `a` and `y`, and `b` and `c` straight through.

@@ -55,6 +55,61 @@ TEST(Port, RefreshSetsWhatIsRead) {
     EXPECT_EQ(in.get(100), "U");
 }
 
+TEST(Port, LettersAreSetAsAValueIs) {
+    Net net("n", 4);
+    Port out(4, Direction::Output, "out");
+    Port in(4, Direction::Input, "in");
+    net.addPort(&out, kOutside);
+    net.addPort(&in, kOutside);
+    out.setLetters("HLZX", 5);
+    EXPECT_EQ(out.get(5), "HLZX");
+    EXPECT_EQ(net.get(5), "HLZU");
+    EXPECT_EQ(net.recordCount(), 1U);
+    EXPECT_EQ(errorOf([&] { out.setLetters("HL", 6); }),
+              "ValueHistory: mismatching type width. ValueHistory width=2, but value width=4");
+}
+
+TEST(Port, LettersAreThoseOfTheValueThatIsRead) {
+    Net net("n", 4);
+    Port in(4, Direction::Input, "in");
+    Port whole(4, Direction::Inout, "whole");
+    net.addPort(&in, kOutside);
+    net.addPort(&whole, kOutside);
+    net.set(Value("HLZU"), 5);
+    const auto lettersOf = [](const Port& port, Time time) {
+        std::string letters(port.width(), '?');
+        port.lettersAt(time, letters.data());
+        return letters;
+    };
+    for (const Port* port : {&in, &whole}) {
+        EXPECT_EQ(lettersOf(*port, 4), "UUUU");
+        EXPECT_EQ(lettersOf(*port, 5), "HLUU");
+    }
+    in.ztrOff();
+    EXPECT_EQ(lettersOf(in, 5), "HLZU");
+    Port alone(2, Direction::Input, "alone");
+    alone.set(Value("ZH"), 5);
+    EXPECT_EQ(lettersOf(alone, 4), "UU");
+    EXPECT_EQ(lettersOf(alone, 5), "ZH");
+}
+
+TEST(Port, ANumberIsReadWhereTheValueIsDefined) {
+    for (const char* letters : {"H", "L", "LHH", "HLHLLHHLH", "HHHHLLLLHHLLHLHL", "HLLLLLLLLLLLLLLLH", "aHL"}) {
+        const Value value(letters);
+        Port port(value.width(), Direction::Input, "port");
+        EXPECT_EQ(port.numberAt(3), std::nullopt);
+        port.set(value, 5);
+        EXPECT_EQ(port.numberAt(5), value.toNumber()) << letters;
+    }
+    Port port(13, Direction::Input, "port");
+    port.set(Value("HHHLLLHLHLHLH"), 1);
+    EXPECT_EQ(port.numberAt(1), 0x1C55U);
+    for (const char letter : {'U', 'Z', 'X'}) {
+        port.set(Value(std::string("HHHLLL") + letter + "LHLHLH"), 2);
+        EXPECT_EQ(port.numberAt(2), std::nullopt) << letter;
+    }
+}
+
 TEST(Port, RefreshOfACircuitsOutputHandsItsInsideOn) {
     Net inside("inside", 1);
     Net outside("outside", 1);

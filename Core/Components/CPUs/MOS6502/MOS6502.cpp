@@ -1,5 +1,7 @@
 #include "Core/Components/CPUs/MOS6502/MOS6502.h"
 
+#include <algorithm>
+
 namespace tarnsim {
 
 MOS6502::MOS6502(const std::string& name, const ParaMap& parameters) : Processor(name, parameters) {
@@ -12,8 +14,8 @@ void MOS6502::evaluateTagged(Time time, std::uint64_t tag) {
     bool isRefreshed = false;
     if (tag == PHI0.getCreationNumber()) {
         if (PHI0.fallingEdgeAt(time)) {
-            isRefreshed = canRefreshFirst();
-            if (isRefreshed) refreshBusPins(time);
+            isRefreshed = canRefreshFirst(time);
+            if (isRefreshed) refreshBus(time);
             startCycle(time, time);
         }
         if (PHI0.risingEdgeAt(time)) driveData(time);
@@ -21,16 +23,11 @@ void MOS6502::evaluateTagged(Time time, std::uint64_t tag) {
     finish(time, isRefreshed);
 }
 
-/// Whether it makes no difference if these pins are refreshed before they are set for later times, as it does where
-/// others drive their nets. Records that are entered in order of time cost half.
-bool MOS6502::canRefreshFirst() const {
-    return t_ah > 0 && t_ads > 0 && A.drivesWire() && RW.drivesWire() && SYNC.drivesWire();
-}
-
-void MOS6502::refreshBusPins(Time time) {
-    A.refresh(time);
-    RW.refresh(time);
-    SYNC.refresh(time);
+/// Whether it makes no difference if the pins of the bus are refreshed before they are set for later times, as it may
+/// where others have driven their nets. Records that are entered in order of time cost half.
+bool MOS6502::canRefreshFirst(Time time) const {
+    return t_ah > 0 && t_ads > 0 && t_dhw > 0 &&
+           std::ranges::all_of(busPins, [time](const Port* port) { return port->isSettled(time); });
 }
 
 void MOS6502::evaluate(Time time) {
@@ -55,14 +52,13 @@ void MOS6502::driveData(Time base) {
     if (isWriteCycle()) setAt(d_write, dataLetters(), std::int64_t{base} + t_mds);
 }
 
+void MOS6502::refreshBus(Time time) {
+    for (Port* port : busPins) port->refresh(time);
+}
+
 void MOS6502::finish(Time time, bool isRefreshed) {
     driveClocks(time);
-    if (!isRefreshed) A.refresh(time);
-    d_write.refresh(time);
-    if (!isRefreshed) {
-        RW.refresh(time);
-        SYNC.refresh(time);
-    }
+    if (!isRefreshed) refreshBus(time);
     for (Pin* pin : {&PHI1, &PHI2}) {
         // A wire has just recorded this very level.
         if (!pin->drivesWire()) pin->refresh(time);

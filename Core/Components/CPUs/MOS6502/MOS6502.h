@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "Core/Components/CPUs/MOS6502/m6502.h"
@@ -23,9 +24,11 @@ public:
 private:
     void startCycle(Time time, Time base);
     void driveData(Time base);
-    bool canRefreshFirst() const;
-    void refreshBusPins(Time time);
+    bool canRefreshFirst(Time time) const;
+    void refreshBus(Time time);
     void finish(Time time, bool isRefreshed);
+
+    const std::array<Port*, 4> busPins = {&A, &d_write, &RW, &SYNC};  ///< in the order in which they are refreshed
 };
 
 }  // namespace tarnsim
