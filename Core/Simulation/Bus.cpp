@@ -4,25 +4,6 @@
 
 namespace tarnsim {
 
-void Bus::Lanes::add(LetterWord word) {
-    const std::uint64_t driven = ~word.equalTo('Z');
-    active += LetterWord::kOnes & driven;
-    letters ^= word.bytes() & driven;
-}
-
-void Bus::Lanes::remove(LetterWord word) {
-    const std::uint64_t driven = ~word.equalTo('Z');
-    active -= LetterWord::kOnes & driven;
-    letters ^= word.bytes() & driven;
-}
-
-LetterWord Bus::Lanes::state() const {
-    const std::uint64_t floating = LetterWord(active).equalTo('\0');
-    const std::uint64_t known = LetterWord(active).equalTo('\1') & LetterWord(letters).levels();
-    return LetterWord((floating & LetterWord::allOf('Z').bytes()) | (known & letters) |
-                      (~(floating | known) & LetterWord::allOf(kUndefinedBit).bytes()));
-}
-
 Bus::Bus(Wire& wire, std::span<Port* const> drivers)
     : wire_(wire),
       drivers_(drivers),
@@ -56,7 +37,7 @@ void Bus::note(const Port& driver, const char* letters) {
 }
 
 void Bus::count(Time time) {
-    std::ranges::fill(past_, Lanes());
+    std::ranges::fill(past_, DriveLanes());
     for (const Port* driver : drivers_) {
         driver->lettersAt(time, letters_.data());
         for (std::size_t i = 0; i < past_.size(); ++i) {

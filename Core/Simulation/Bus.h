@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "Core/Simulation/DriveLanes.h"
 #include "Core/Simulation/Wire.h"
 #include "Core/Values/LetterWord.h"
 #include "Core/Values/Time.h"
@@ -44,17 +45,6 @@ public:
     void cut();
 
 private:
-    /// Eight bits of the net in the order of the letters, a byte each: how many drivers aren't at `Z`, and their
-    /// letters, combined by exclusive or: of one driver, its letter.
-    struct Lanes {
-        std::uint64_t active = 0;
-        std::uint64_t letters = 0;
-
-        void add(LetterWord word);
-        void remove(LetterWord word);
-        LetterWord state() const;
-    };
-
     std::size_t lettersIn(std::size_t word) const {
         return std::min(LetterWord::kLetters, width_ - word * LetterWord::kLetters);
     }
@@ -67,10 +57,10 @@ private:
     std::span<Port* const> drivers_;
     std::size_t width_;
     Time latest_ = kEarliestTime;     ///< of all that was set
-    std::vector<Lanes> lanes_;        ///< at that time
+    std::vector<DriveLanes> lanes_;   ///< at that time
     std::vector<LetterWord> driven_;  ///< by the drivers at that time, one after the other
     std::vector<char> shown_;         ///< by the net at that time; whole words
-    std::vector<Lanes> past_;         ///< at an earlier time, while one is looked at
+    std::vector<DriveLanes> past_;    ///< at an earlier time, while one is looked at
     std::vector<char> letters_;       ///< of one signal, while one is looked at
 };
 

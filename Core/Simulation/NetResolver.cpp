@@ -1,9 +1,11 @@
 #include "Core/Simulation/NetResolver.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <vector>
 
+#include "Core/Simulation/DriveLanes.h"
 #include "Core/Simulation/DriveStatus.h"
 #include "Core/Simulation/Net.h"
 #include "Core/Simulation/Port.h"
@@ -71,54 +73,36 @@ private:
     std::vector<Level> levels_;  ///< innermost last
 };
 
-/// What the lanes of a net are driven with: for each bit how many drivers aren't at `Z`, and the letter of the last of
-/// them. Eight bits at a time, a byte each, in one machine word.
+/// What the drivers of a net come to, if each has all its bits.
 class Lanes {
 public:
-    explicit Lanes(std::uint32_t width) : width_(width), words_((width + 7) / 8) {
-        for (std::size_t i = 0; i < words_; ++i) active_[i] = 0;
+    explicit Lanes(std::uint32_t width) : width_(width) {
+        std::fill_n(lanes_.data(), (width_ + LetterWord::kLetters - 1) / LetterWord::kLetters, DriveLanes());
     }
 
     void add(const Port& driver, Time time) {
         checkDriverCount(++total_);
-        std::array<std::uint64_t, kMostWords> words;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
-        words[words_ - 1] = 0;                        // the bytes behind the last letter
-        driver.lettersAt(time, reinterpret_cast<char*>(words.data()));
-        for (std::size_t i = 0; i < words_; ++i) {
-            const std::uint64_t floating = equalBytes(words[i], kOnes * 'Z');
-            active_[i] += kOnes & ~floating;
-            letters_[i] = (letters_[i] & floating) | (words[i] & ~floating);
+        std::array<char, kMaxValueWidth> letters;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
+        driver.lettersAt(time, letters.data());
+        for (std::size_t i = 0; i < width_; i += LetterWord::kLetters) {
+            lanes_[i / LetterWord::kLetters].add(LetterWord::load(&letters[i], lettersFrom(i)));
         }
     }
 
     Value state() const {
-        std::array<char, 8 * kMostWords> letters;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
-        const auto* active = reinterpret_cast<const std::uint8_t*>(active_.data());
-        const auto* last = reinterpret_cast<const char*>(letters_.data());
-        for (std::size_t i = 0; i < width_; ++i) {
-            letters[i] = active[i] == 0 ? 'Z' : active[i] == 1 && isLevel(last[i]) ? last[i] : kUndefinedBit;
+        std::array<char, kMaxValueWidth> letters;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
+        for (std::size_t i = 0; i < width_; i += LetterWord::kLetters) {
+            lanes_[i / LetterWord::kLetters].state().store(&letters[i], lettersFrom(i));
         }
         return Value::ofLetters({letters.data(), width_});
     }
 
 private:
-    static constexpr std::size_t kMostWords = (kMaxValueWidth + 7) / 8;
-    static constexpr std::uint64_t kOnes = 0x0101010101010101;
+    std::size_t lettersFrom(std::size_t i) const { return std::min(LetterWord::kLetters, width_ - i); }
 
-    /// 0xFF where the bytes of the words are equal, 0 where not.
-    static std::uint64_t equalBytes(std::uint64_t a, std::uint64_t b) {
-        constexpr std::uint64_t kLow = kOnes * 0x7F;
-        const std::uint64_t difference = a ^ b;
-        const std::uint64_t isDifferent = (((difference & kLow) + kLow) | difference) & ~kLow;  // in bit 7
-        return ~((isDifferent >> 7U) * 0xFF);
-    }
-
-    std::uint32_t width_;
-    std::size_t words_;
+    std::size_t width_;
     int total_ = 0;
-    // In the order of the letters, the most significant bit first.
-    std::array<std::uint64_t, kMostWords> active_;
-    std::array<std::uint64_t, kMostWords> letters_;
+    std::array<DriveLanes, (kMaxValueWidth + LetterWord::kLetters - 1) / LetterWord::kLetters> lanes_;
 };
 
 /// Adds the drivers of the net and of all that Inouts join to it; each bit has the same ones. False if there are bit

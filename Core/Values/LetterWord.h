@@ -26,18 +26,21 @@ public:
     }
     /// `count` letters, at most 8; the bytes behind them are 0.
     static LetterWord load(const char* letters, std::size_t count) {
-        std::uint64_t bytes = 0;
-        if (count == kLetters) {
-            std::memcpy(&bytes, letters, kLetters);
-        } else {
-            std::memcpy(&bytes, letters, count);
+        if (count == kLetters) return LetterWord(read<std::uint64_t>(letters));
+        // Two halves that may overlap: a copy of `count` letters would be a call.
+        if (count >= 4) {
+            const std::uint64_t rest = read<std::uint32_t>(letters + count - 4);
+            return LetterWord(read<std::uint32_t>(letters) | rest << (8 * (count - 4)));
         }
-        return LetterWord(firstLowest(bytes));
+        std::uint64_t bytes = 0;
+        for (std::size_t i = 0; i < count; ++i)
+            bytes |= std::uint64_t{static_cast<unsigned char>(letters[i])} << (8 * i);
+        return LetterWord(bytes);
     }
     void store(char* letters, std::size_t count) const {
         const std::uint64_t bytes = firstLowest(bytes_);
         if (count == kLetters) {
-            std::memcpy(letters, &bytes, kLetters);
+            std::memcpy(letters, &bytes, kLetters);  // of a known length, so no call
         } else {
             std::memcpy(letters, &bytes, count);
         }
@@ -79,6 +82,12 @@ public:
 private:
     static constexpr std::uint64_t firstLowest(std::uint64_t bytes) {
         return std::endian::native == std::endian::big ? __builtin_bswap64(bytes) : bytes;
+    }
+    template <class Bytes>
+    static std::uint64_t read(const char* letters) {
+        Bytes bytes;  // NOLINT(cppcoreguidelines-init-variables): filled next
+        std::memcpy(&bytes, letters, sizeof(bytes));
+        return firstLowest(bytes) >> (std::endian::native == std::endian::big ? 64 - 8 * sizeof(bytes) : 0);
     }
 
     std::uint64_t bytes_ = 0;

@@ -20,6 +20,12 @@ std::string textOf(LetterWord word, std::size_t count = LetterWord::kLetters) {
 TEST(LetterWord, HoldsTheLettersInTheirOrder) {
     EXPECT_EQ(textOf(load("LHUZXabc")), "LHUZXabc");
     EXPECT_EQ(textOf(load("HZL"), 3), "HZL");
+    const std::string all = "LHUZXabc";
+    for (std::size_t count = 0; count <= all.size(); ++count) {
+        const auto word = LetterWord::load(all.data(), count);
+        EXPECT_EQ(textOf(word), all.substr(0, count) + std::string(all.size() - count, '\0'));
+        EXPECT_EQ(textOf(word, count), all.substr(0, count));
+    }
     EXPECT_EQ(load("H").bytes(), static_cast<unsigned char>('H'));
     EXPECT_EQ(load("LH").bytes(), 'L' + 0x100U * 'H');
     EXPECT_EQ(textOf(LetterWord::allOf('Z')), "ZZZZZZZZ");
