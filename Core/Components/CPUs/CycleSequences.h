@@ -44,7 +44,7 @@ struct CommonSequences {
     using Program = tarnsim::Program<Core>;
 
     /// One cycle: the actions in order. The mask comes and goes in a register; a tick that had to wait for the record
-    /// each time would take twice as long.
+    /// each time would take half as long again.
     template <auto... Actions>
     static std::uint64_t step(Core& c, std::uint64_t pins) {
         c.pins = pins;
