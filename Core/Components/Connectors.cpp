@@ -121,6 +121,10 @@ void Split::evaluate(Time time) {
             continue;
         }
         const std::size_t size = mapping.places.size();
+        if (size == 1) {
+            mapping.port->setLetter(whole[mapping.places.front()], time);
+            continue;
+        }
         for (std::size_t i = 0; i < size; ++i) part[i] = whole[mapping.places[i]];
         mapping.port->setLetters({part.data(), size}, time);
     }

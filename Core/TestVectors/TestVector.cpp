@@ -9,7 +9,6 @@
 #include "Core/Support/Text.h"
 #include "Core/TestVectors/ColumnLists.h"
 #include "Core/TestVectors/TestVectorHeader.h"
-#include "Core/Values/Value.h"
 
 namespace tarnsim {
 
@@ -20,24 +19,24 @@ struct Expansion {
     std::array<char, 4> letters{};
     std::uint8_t length = 0;  ///< 0 for a character that no cell may have
 };
-using Expansions = std::array<Expansion, 256>;
 
-const Expansions& expansions() {
-    static const Expansions kExpansions = [] {
-        Expansions all{};
-        for (const char c : std::string_view("0123456789abcdefABCDEFhHlLxXzZuU")) {
-            Expansion& expansion = all[static_cast<unsigned char>(c)];
-            const std::string letters = Value::hexToBits({&c, 1});
-            std::ranges::copy(letters, expansion.letters.begin());
-            expansion.length = static_cast<std::uint8_t>(letters.size());
+constexpr auto kExpansions = [] {
+    std::array<Expansion, 256> expansions{};
+    for (const unsigned char letter : std::string_view("hHlLxXzZuU")) {
+        expansions[letter] = {{static_cast<char>(letter)}, 1};
+    }
+    for (const unsigned char digit : std::string_view("0123456789abcdefABCDEF")) {
+        const int number = isDigit(static_cast<char>(digit)) ? digit - '0' : (digit | 0x20) - 'a' + 10;
+        Expansion& expansion = expansions[digit];
+        for (const int bit : {8, 4, 2, 1}) {
+            expansion.letters[expansion.length++] = (number & bit) != 0 ? 'H' : 'L';
         }
-        return all;
-    }();
-    return kExpansions;
-}
+    }
+    return expansions;
+}();
 
 const Expansion& expansionOf(char c) {
-    return expansions()[static_cast<unsigned char>(c)];
+    return kExpansions[static_cast<unsigned char>(c)];
 }
 
 std::string_view textIn(const ColumnList& list, int i) {
@@ -73,7 +72,11 @@ public:
             const auto cells = static_cast<std::size_t>(inputs + outputs);
             std::size_t room = sizeof(Expansion::letters);  // more letters than a character has are copied
             for (const std::string_view word : words) {
-                for (const char c : word) room += expansionOf(c).length;
+                for (const char c : word) {
+                    const std::uint8_t length = expansionOf(c).length;
+                    room += length;
+                    isPlain_ &= length > 0;
+                }
             }
             const std::size_t letterWords = (room + sizeof(std::uint32_t) - 1) / sizeof(std::uint32_t);
             block_ = std::make_unique_for_overwrite<std::uint32_t[]>(kCounts + cells + letterWords);
@@ -82,6 +85,9 @@ public:
             nextEnd_ = block_.get() + kCounts;
             letters_ = end_ = reinterpret_cast<char*>(nextEnd_ + cells);
         }
+
+        /// No word has anything but characters of cells, not even a `~`.
+        bool isPlain() const { return isPlain_; }
 
         /// REQUIRES: what stands behind a `~` in front has none but characters of cells
         void add(std::string_view word, bool columnIsReversed) {
@@ -103,6 +109,7 @@ public:
         std::uint32_t* nextEnd_ = nullptr;
         char* letters_ = nullptr;
         char* end_ = nullptr;
+        bool isPlain_ = true;
     };
 
 private:
@@ -156,7 +163,7 @@ TestVector::TestVector(std::span<const std::string_view> words, int lineNumber, 
         // Beside a delta time this number is one column too far, so that an output takes the `~` of its right
         // neighbour. Signal files are written with that in mind.
         const bool columnIsReversed = header->isReversed(isInput ? i : i + 1);
-        requireCell(word, columnIsReversed);
+        if (!cells.isPlain()) requireCell(word, columnIsReversed);
         if (isInput || !header->hasDeltaTime() || i != header->inputCount() + 1) {
             cells.add(word, columnIsReversed);
             continue;
