@@ -91,7 +91,8 @@ void appendTime(std::string& row, Time time) {
 /// The letters that a port shows, written where they are to stand: a long table has millions of cells.
 void appendValue(std::string& row, std::size_t width, const Port& port, Time time) {
     const std::size_t size = port.width();
-    if (size == 0) return appendRight(row, width, port.get(time).letters());
+    // Where the width isn't known, or values wrap, they have other letters.
+    if (size == 0 || size > kMaxValueWidth) return appendRight(row, width, port.get(time).letters());
     padTo(row, width, size);
     row.resize(row.size() + size);
     port.lettersAt(time, row.data() + row.size() - size);
