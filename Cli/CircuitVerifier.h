@@ -3,7 +3,9 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Core/Support/ParaMap.h"
@@ -67,15 +69,27 @@ private:
     /// `name` was expected to show one value at `time` and shows another one.
     virtual void reportMismatch(Time time, const std::string& name, const Value& expected, const Value& actual) = 0;
 
+    /// A column of the header, looked up once for all vectors.
+    struct InputColumn {
+        std::string name;
+        Port* port;
+    };
+    struct OutputColumn {
+        std::string name;
+        const Port* port;  ///< null until it is asked for
+        std::optional<int> expectation;
+    };
+
     void setUp(Circuit* circuit);
     void registerInput(const std::string& name);
-    void applyVector(const TestVector& vector);
+    void applyVector(const std::vector<InputColumn>& columns, const TestVector& vector);
+    static void applyCell(Port& port, std::string_view text, Time time);
     void applyAssignment(const PortAssignment& assignment);
     void applyOptions();
     void restoreParameters();
     Component* requireComponent(const std::string& name) const;
-    void checkOutput(const std::string& name, const TestVector& vector);
-    void compare(const Port& port, Time time, const std::string& name);
+    void checkOutput(OutputColumn& column, Time time);
+    void compare(const OutputColumn& column, Time time);
     std::vector<std::string> inputNames() const;
     std::vector<std::string> outputNames() const;
 

@@ -1,22 +1,12 @@
 #include "Core/Components/Connectors.h"
 
 #include <algorithm>
-#include <array>
 
 #include "Core/Components/PartParameters.h"
 #include "Core/Support/Error.h"
 #include "Core/Support/Text.h"
 
 namespace tarnsim {
-
-namespace {
-
-bool isAscending(const std::vector<std::int32_t>& bits) {
-    return std::ranges::adjacent_find(bits, [](std::int32_t bit, std::int32_t next) { return next != bit + 1; }) ==
-           bits.end();
-}
-
-}  // namespace
 
 Connector::Connector(const PartInfo& info, const std::string& name, const ParaMap& parameters)
     : Component(std::string(info.typeName), name, parameters) {}
@@ -48,8 +38,11 @@ void Connector::declarePorts(const std::string& sizeKey, std::uint32_t size, Dir
                         getName().c_str(), name.c_str(), bits->size(), kMaxValueWidth);
         }
         Port* port = createPort(static_cast<std::uint32_t>(bits->size()), direction, name);
-        const bool isRun = isAscending(bits->getBits());
-        mappings_.push_back({port, std::move(bits), isRun});
+        std::vector<std::uint8_t> places;
+        for (std::size_t i = bits->size(); i-- > 0;) {
+            places.push_back(static_cast<std::uint8_t>(static_cast<std::int32_t>(size) - 1 - bits->bitAt(i)));
+        }
+        mappings_.push_back({port, std::move(bits), std::move(places)});
     }
 }
 
@@ -82,16 +75,27 @@ void Join::inputChanged(Port* /*port*/, const Value& /*oldValue*/, const Value& 
 }
 
 void Join::evaluate(Time time) {
-    Value joined(out->width());
+    const std::uint32_t size = out->width();
+    Letters joined;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
+    Letters part;    // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
+    std::fill_n(joined.begin(), size, kUndefinedBit);
     for (const Mapping& mapping : mappings()) {
-        const Value part = mapping.port->get(time);
-        if (part.width() > joined.width()) {  // only a port without any text takes what comes
-            throw Error("Error: Join '%s': %u bits arrive at port '%s', but 'out' has only %u.", getName().c_str(),
-                        part.width(), mapping.port->getName().c_str(), joined.width());
+        if (mapping.takesAll()) {
+            const Value all = mapping.port->get(time);
+            requireFit(mapping, all.width());
+            std::ranges::copy(all.letters(), joined.begin() + (size - all.width()));
+            continue;
         }
-        for (std::size_t i = 0; i < part.width(); ++i) joined[mapping.busBit(i)] = part[i];
+        mapping.port->lettersAt(time, part.data());
+        for (std::size_t i = 0; i < mapping.places.size(); ++i) joined[mapping.places[i]] = part[i];
     }
-    out->set(joined, time);
+    out->setLetters({joined.data(), size}, time);
+}
+
+void Join::requireFit(const Mapping& mapping, std::uint32_t width) const {
+    if (width <= out->width()) return;
+    throw Error("Error: Join '%s': %u bits arrive at port '%s', but 'out' has only %u.", getName().c_str(), width,
+                mapping.port->getName().c_str(), out->width());
 }
 
 Split::Split(const std::string& name, const ParaMap& parameters) : Connector(info, name, parameters) {
@@ -108,20 +112,30 @@ void Split::inputChanged(Port* /*port*/, const Value& /*oldValue*/, const Value&
 }
 
 void Split::evaluate(Time time) {
-    std::array<char, kMaxValueWidth> whole;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
-    std::array<char, kMaxValueWidth> part;   // NOLINT(cppcoreguidelines-pro-type-member-init): the same
+    Letters whole;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
+    Letters part;   // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
     in->lettersAt(time, whole.data());
-    const std::size_t last = in->width() - std::size_t{1};
     for (const Mapping& mapping : mappings()) {
-        const std::size_t width = mapping.port->width();
-        if (width == 0) continue;  // declared without any text: it has nothing to show
-        if (mapping.isRun) {
-            mapping.port->setLetters({&whole[last - mapping.busBit(width - 1)], width}, time);
-        } else {
-            for (std::size_t i = 0; i < width; ++i) part[width - 1 - i] = whole[last - mapping.busBit(i)];
-            mapping.port->setLetters({part.data(), width}, time);
+        if (mapping.takesAll()) {
+            showAll(*mapping.port, {whole.data(), in->width()}, time);
+            continue;
         }
+        const std::size_t size = mapping.places.size();
+        if (size == 1) {
+            mapping.port->setLetter(whole[mapping.places.front()], time);
+            continue;
+        }
+        for (std::size_t i = 0; i < size; ++i) part[i] = whole[mapping.places[i]];
+        mapping.port->setLetters({part.data(), size}, time);
     }
+}
+
+void Split::showAll(Port& port, std::string_view letters, Time time) const {
+    if (port.width() == 0) return;  // it has nothing to show
+    const Value whole = Value::ofLetters(letters);
+    Value part(port.width());
+    for (std::size_t i = 0; i < part.width(); ++i) part[i] = whole[i];
+    port.set(part, time);
 }
 
 Splice::Splice(const std::string& name, const ParaMap& parameters) : Connector(info, name, parameters) {

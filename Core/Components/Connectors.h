@@ -1,8 +1,10 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -35,10 +37,12 @@ protected:
     struct Mapping {
         Port* port;
         std::unique_ptr<const PinSpec> bits;  ///< bit i of the port is this bit of the bus
-        bool isRun;                           ///< they lie beside each other on the bus, in the same order
+        std::vector<std::uint8_t> places;     ///< the same by letters: letter i is this letter of the bus
 
-        std::size_t busBit(std::size_t i) const { return static_cast<std::size_t>(bits->bitAt(i)); }
+        /// Declared without any text: all bits as they come.
+        bool takesAll() const { return places.empty(); }
     };
+    using Letters = std::array<char, kMaxValueWidth>;
 
     Connector(const PartInfo& info, const std::string& name, const ParaMap& parameters);
 
@@ -87,6 +91,7 @@ public:
 
 private:
     void refuseOverlaps() const;
+    void requireFit(const Mapping& mapping, std::uint32_t width) const;
 
     Port* out;
 };
@@ -120,6 +125,8 @@ public:
     Response responseTo(const Port& /*port*/) const override { return {Response::Kind::Event}; }
 
 private:
+    void showAll(Port& port, std::string_view letters, Time time) const;
+
     Port* in;
 };
 

@@ -5,6 +5,18 @@
 
 namespace tarnsim {
 
+namespace {
+
+using Letters = std::array<char, kMaxValueWidth>;
+
+constexpr Letters allOf(char letter) {
+    Letters letters{};
+    letters.fill(letter);
+    return letters;
+}
+
+}  // namespace
+
 void ThreeStateBuf::evaluate(Time time) {
     const Time then = inputTime(time);
     switch (g.level(then)) {
@@ -32,12 +44,18 @@ void BusBuffer::applyParameters() {
 }
 
 void BusBuffer::evaluate(Time time) {
+    // The evaluations of a bus are most of a board's: no Values.
+    static constexpr auto kFloating = allOf('Z');
+    static constexpr auto kUnknown = allOf('U');
     const Time then = inputTime(time);
     switch (g.level(then)) {
-        case 'H': return out.set(Value(size_).fill('Z'), time);
-        case 'U': return out.set(Value(size_), time);
-        default: return out.set(in.get(then), time);
+        case 'H': return out.setLetters({kFloating.data(), size_}, time);
+        case 'U': return out.setLetters({kUnknown.data(), size_}, time);
+        default: break;
     }
+    Letters letters;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
+    in.lettersAt(then, letters.data());
+    out.setLetters({letters.data(), size_}, time);
 }
 
 void D_flip_flop::reset() {

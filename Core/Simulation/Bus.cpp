@@ -24,8 +24,9 @@ void Bus::join() {
     }
 }
 
-/// What the driver shows at the latest time.
-void Bus::note(const Port& driver, const char* letters) {
+/// What the driver shows at the latest time. False if it was known.
+bool Bus::note(const Port& driver, const char* letters) {
+    bool isNew = false;
     LetterWord* driven = &driven_[driver.getBusPlace() * lanes_.size()];
     for (std::size_t i = 0; i < lanes_.size(); ++i) {
         const auto word = LetterWord::load(letters + i * LetterWord::kLetters, lettersIn(i));
@@ -33,7 +34,9 @@ void Bus::note(const Port& driver, const char* letters) {
         lanes_[i].remove(driven[i]);
         lanes_[i].add(word);
         driven[i] = word;
+        isNew = true;
     }
+    return isNew;
 }
 
 void Bus::count(Time time) {
@@ -58,7 +61,10 @@ bool Bus::set(Port& driver, std::string_view letters, Time time) {
     driver.recordLetters(letters, time);
     if (time < latest_) return setPast(driver, time);
     latest_ = time;
-    note(driver, letters.data());
+    const bool isNew = note(driver, letters.data());
+    // What a bus is told most is that another buffer goes on floating.
+    if (!isNew && recordedAt_ == time) return true;
+    recordedAt_ = time;
     bool isChange = false;
     for (std::size_t i = 0; i < lanes_.size(); ++i) {
         char* shown = &shown_[i * LetterWord::kLetters];
@@ -78,6 +84,7 @@ bool Bus::set(Port& driver, std::string_view letters, Time time) {
 
 /// The rest of `set` for a time before the latest. Other drivers may have been set since.
 bool Bus::setPast(Port& driver, Time time) {
+    recordedAt_.reset();
     driver.lettersAt(latest_, letters_.data());
     note(driver, letters_.data());
     count(time);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -48,7 +49,7 @@ private:
     std::size_t lettersIn(std::size_t word) const {
         return std::min(LetterWord::kLetters, width_ - word * LetterWord::kLetters);
     }
-    void note(const Port& driver, const char* letters);
+    bool note(const Port& driver, const char* letters);
     /// Counts anew what the drivers show at `time`.
     void count(Time time);
     bool setPast(Port& driver, Time time);
@@ -57,6 +58,7 @@ private:
     std::span<Port* const> drivers_;
     std::size_t width_;
     Time latest_ = kEarliestTime;     ///< of all that was set
+    std::optional<Time> recordedAt_;  ///< the time at which the wire has a record of what `lanes_` come to
     std::vector<DriveLanes> lanes_;   ///< at that time
     std::vector<LetterWord> driven_;  ///< by the drivers at that time, one after the other
     std::vector<char> shown_;         ///< by the net at that time; whole words

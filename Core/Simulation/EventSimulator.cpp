@@ -1,7 +1,10 @@
 #include "Core/Simulation/EventSimulator.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cstdio>
+#include <string_view>
 
 #include "Core/Circuit/Circuit.h"
 #include "Core/Components/Component.h"
@@ -58,48 +61,95 @@ template <class Signal>
 struct Column {
     const Signal* signal;
     std::string name;
-    int width;  ///< printed characters
+    std::size_t width;  ///< printed characters
 };
 
 template <class Signal>
 Column<Signal> makeColumn(const Signal& signal, const std::string& name) {
-    return {&signal, name, static_cast<int>(std::max<std::size_t>(signal.width(), name.size()))};
+    return {&signal, name, std::max<std::size_t>(signal.width(), name.size())};
 }
 
 constexpr std::uint32_t kRowsPerHeader = 50;
+
+void padTo(std::string& row, std::size_t width, std::size_t textSize) {
+    if (textSize < width) row.append(width - textSize, ' ');
+}
+
+void appendRight(std::string& row, std::size_t width, std::string_view text) {
+    padTo(row, width, text.size());
+    row += text;
+}
+
+/// As `% 6d` prints it.
+void appendTime(std::string& row, Time time) {
+    std::array<char, 12> digits{' '};
+    char* begin = digits.data() + (time < 0 ? 0 : 1);
+    const char* end = std::to_chars(begin, digits.data() + digits.size(), time).ptr;
+    appendRight(row, 6, {digits.data(), end});
+}
+
+/// The letters that a port shows, written where they are to stand: a long table has millions of cells.
+void appendValue(std::string& row, std::size_t width, const Port& port, Time time) {
+    const std::size_t size = port.width();
+    // Where the width isn't known, or values wrap, they have other letters.
+    if (size == 0 || size > kMaxValueWidth) return appendRight(row, width, port.get(time).letters());
+    padTo(row, width, size);
+    row.resize(row.size() + size);
+    port.lettersAt(time, row.data() + row.size() - size);
+}
 
 }  // namespace
 
 struct EventSimulator::Table {
     std::vector<Column<Port>> ports;
-    std::size_t firstOutput;  ///< the column behind the arrow
+    std::size_t firstOutput = 0;  ///< the column behind the arrow
     std::vector<Column<Net>> nets;
+    std::string row;  ///< kept for its room
 
-    void printHeader() const {
-        std::printf("Time    ");
+    void printHeader() {
+        row = "Time    ";
         for (std::size_t i = 0; i < ports.size(); ++i) {
-            if (i == firstOutput) std::printf(" => ");
-            std::printf("%*s ", ports[i].width, ports[i].name.c_str());
+            if (i == firstOutput) row += " => ";
+            appendRight(row, ports[i].width, ports[i].name);
+            row += ' ';
         }
-        for (const auto& net : nets) std::printf("#%*s ", net.width, net.name.c_str());
-        std::printf("\n");
+        for (const auto& net : nets) {
+            row += '#';
+            appendRight(row, net.width, net.name);
+            row += ' ';
+        }
+        printRow();
     }
 
-    void printValues(Time time) const {
-        std::printf("% 6d: ", time);
+    void printValues(Time time) {
+        row.clear();
+        appendTime(row, time);
+        row += ": ";
         for (std::size_t i = 0; i < ports.size(); ++i) {
-            if (i == firstOutput) std::printf("    ");
-            std::printf("%*s ", ports[i].width, ports[i].signal->get(time).c_str());
+            if (i == firstOutput) row += "    ";
+            appendValue(row, ports[i].width, *ports[i].signal, time);
+            row += ' ';
         }
-        for (const auto& net : nets) std::printf(" %*s ", net.width, net.signal->get(time).c_str());
-        std::printf("\n");
+        for (const auto& net : nets) {
+            row += ' ';
+            appendRight(row, net.width, net.signal->get(time).letters());
+            row += ' ';
+        }
+        printRow();
+    }
+
+private:
+    void printRow() {
+        row += '\n';
+        std::fwrite(row.data(), 1, row.size(), stdout);
     }
 };
 
 EventSimulator::Table EventSimulator::makeTable(const std::vector<std::string>& inputs,
                                                 const std::vector<std::string>& outputs,
                                                 const std::vector<std::string>& nets) const {
-    Table table{{}, inputs.size(), {}};
+    Table table;
+    table.firstOutput = inputs.size();
     for (const auto* names : {&inputs, &outputs}) {
         for (const std::string& name : *names) {
             const Port* port = circuit_->findPort(name);
@@ -111,7 +161,7 @@ EventSimulator::Table EventSimulator::makeTable(const std::vector<std::string>& 
     return table;
 }
 
-void EventSimulator::printRow(const Table& table, Time time) {
+void EventSimulator::printRow(Table& table, Time time) {
     if (printedRows_++ % kRowsPerHeader == 0) table.printHeader();
     table.printValues(time);
 }
@@ -119,14 +169,14 @@ void EventSimulator::printRow(const Table& table, Time time) {
 void EventSimulator::printEvery(const std::vector<std::string>& inputs, const std::vector<std::string>& outputs,
                                 const std::vector<std::string>& nets, Time step) {
     if (step < 1) throw Error("Error: a table needs a time step above 0, not %d.", step);
-    const Table table = makeTable(inputs, outputs, nets);
+    Table table = makeTable(inputs, outputs, nets);
     printedRows_ = 0;
     for (std::int64_t stop = 0; stop <= endTime_; stop += step) printRow(table, static_cast<Time>(stop));
 }
 
 void EventSimulator::printAt(const std::vector<std::string>& inputs, const std::vector<std::string>& outputs,
                              const std::vector<std::string>& nets, const std::vector<Time>& times) {
-    const Table table = makeTable(inputs, outputs, nets);
+    Table table = makeTable(inputs, outputs, nets);
     printedRows_ = 0;
     for (const Time time : times) printRow(table, time);
 }

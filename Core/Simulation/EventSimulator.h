@@ -66,7 +66,7 @@ private:
     void workThrough(Time time);
     Table makeTable(const std::vector<std::string>& inputs, const std::vector<std::string>& outputs,
                     const std::vector<std::string>& nets) const;
-    void printRow(const Table& table, Time time);
+    void printRow(Table& table, Time time);
 
     Circuit* circuit_;  ///< not owned
     EventDirectory events_;

@@ -55,6 +55,11 @@ public:
     // The same without a Value around the letters, for parts with buses.
 
     void setLetters(std::string_view letters, Time time);
+    /// REQUIRES: a port of one bit
+    void setLetter(char letter, Time time) {
+        if (drivenWire_ != nullptr && drivenWire_->passes(letter)) return drivenWire_->setLetter(letter, time);
+        setLetters({&letter, 1}, time);
+    }
     /// The letters of `get`, as many as the port has bits.
     void lettersAt(Time time, char* letters) const;
     /// The number that `get` gives; nothing if it isn't defined.
@@ -116,8 +121,6 @@ public:
 
 protected:
     void leaveSharedRecords() override { cutWire(); }
-    /// The wire that takes what is set on this port; null if there is none.
-    Wire* drivenWire() const { return drivenWire_; }
     /// The records that the port reads, if those are common ones; null if not.
     const ValueRecords* wireRecords() const { return wireRecords_; }
     /// What a reader of the port sees where the records have a `Z`.
@@ -157,11 +160,7 @@ public:
         const char letter = wireRecords()->letterInForceAt(time, kUndefinedBit);
         return letter == 'Z' ? readZ() : letter;
     }
-    void setLevel(char letter, Time time) {
-        Wire* wire = drivenWire();
-        if (wire != nullptr && wire->passes(letter)) return wire->setLetter(letter, time);
-        set(Value(letter, 1), time);
-    }
+    void setLevel(char letter, Time time) { setLetter(letter, time); }
 
     /// Sets `count` periods of a square wave from `start` on, each low first and high from its middle. Times in ns.
     void pulse(Time period, int count, Time start);

@@ -46,13 +46,16 @@ std::vector<std::string> split(std::string_view text, char delimiter) {
 
 std::vector<std::string> splitWords(std::string_view text) {
     std::vector<std::string> words;
-    std::size_t begin = text.find_first_not_of(kWhiteSpace);
-    while (begin != std::string_view::npos) {
-        const std::size_t end = std::min(text.find_first_of(kWhiteSpace, begin), text.size());
-        words.emplace_back(text.substr(begin, end - begin));
-        begin = text.find_first_not_of(kWhiteSpace, end);
-    }
+    for (std::string_view word = takeWord(text); !word.empty(); word = takeWord(text)) words.emplace_back(word);
     return words;
+}
+
+std::string_view takeWord(std::string_view& text) {
+    const auto* begin = std::ranges::find_if_not(text, isWhiteSpace);
+    const auto* end = std::find_if(begin, text.end(), isWhiteSpace);
+    const std::string_view word(begin, end);
+    text = {end, text.end()};
+    return word;
 }
 
 std::string format(const char* format, ...) {

@@ -27,7 +27,7 @@ constexpr bool isWordCharacter(char c) {
     return isLetter(c) || isDigit(c) || c == '_';
 }
 constexpr bool isWhiteSpace(char c) {
-    return kWhiteSpace.find(c) != std::string_view::npos;
+    return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
 /// Removes characters of `set` from the end of `text`, in place, and returns it.
@@ -48,6 +48,8 @@ std::vector<std::string> split(std::string_view text, char delimiter);
 
 /// The words between runs of white space; never an empty one.
 std::vector<std::string> splitWords(std::string_view text);
+/// The first of them, taken off the front of `text`; empty if there is none.
+std::string_view takeWord(std::string_view& text);
 
 /// printf into a string, of any length. Gives "" if the C library can't format.
 std::string format(const char* format, ...) __attribute__((format(printf, 1, 2)));

@@ -20,7 +20,7 @@ ExpectedOutputs::ExpectedOutputs(const TestSequence& sequence) : sequence_(seque
 void ExpectedOutputs::assignSegments() {
     const auto& vectors = sequence_.vectors();
     for (const auto& vector : vectors) endTimes_.push_back(vector->endTime());
-    std::ranges::sort(endTimes_);
+    if (!std::ranges::is_sorted(endTimes_)) std::ranges::sort(endTimes_);
     endTimes_.erase(std::unique(endTimes_.begin(), endTimes_.end()), endTimes_.end());
     vectorOfSegment_.resize(endTimes_.size());
 
@@ -41,14 +41,25 @@ void ExpectedOutputs::assignSegments() {
 }
 
 std::size_t ExpectedOutputs::segmentOf(Time time) const {
-    return static_cast<std::size_t>(std::ranges::upper_bound(endTimes_, time) - endTimes_.begin()) - 1;
+    const auto isIn = [&](std::size_t segment) {
+        return segment < endTimes_.size() && endTimes_[segment] <= time &&
+               (segment + 1 == endTimes_.size() || time < endTimes_[segment + 1]);
+    };
+    if (!isIn(lastSegment_) && !isIn(++lastSegment_)) {
+        lastSegment_ = static_cast<std::size_t>(std::ranges::upper_bound(endTimes_, time) - endTimes_.begin()) - 1;
+    }
+    return lastSegment_;
 }
 
-std::string ExpectedOutputs::at(const std::string& name, Time time) const {
+std::optional<int> ExpectedOutputs::columnOf(const std::string& name) const {
     const auto column = columns_.find(name);
-    if (column == columns_.end()) return "?";
+    return column == columns_.end() ? std::nullopt : std::optional(column->second);
+}
+
+std::string_view ExpectedOutputs::textAt(std::optional<int> column, Time time) const {
+    if (!column) return "?";
     const TestVector* vector = inForceAt(time);
-    return vector == nullptr ? "!" : vector->output(column->second);
+    return vector == nullptr ? "!" : vector->outputText(*column);
 }
 
 const TestVector* ExpectedOutputs::inForceAt(Time time) const {

@@ -19,7 +19,7 @@ bool isAssignedNameCharacter(char c) {
 
 /// The `.*` of the patterns: anything but an end of line, which a carriage return within the line is too.
 bool isPlain(std::string_view text) {
-    return text.find_first_of("\n\r") == std::string_view::npos;
+    return text.find('\n') == std::string_view::npos && text.find('\r') == std::string_view::npos;
 }
 
 bool isComponentOptions(std::string_view line) {

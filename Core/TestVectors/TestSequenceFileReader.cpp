@@ -78,7 +78,10 @@ void TestSequenceFileReader::addVector(const std::string& line) {
         throw Error("Test vector parse error on line %d in file '%s': a header must precede the test vectors",
                     lineNumber_, fileName_.c_str());
     }
-    sequence_->addVector(new TestVector(splitWords(line), lineNumber_, sequence_->header(), takeComment()));
+    words_.clear();
+    std::string_view rest(line);
+    for (auto word = takeWord(rest); !word.empty(); word = takeWord(rest)) words_.push_back(word);
+    sequence_->addVector(new TestVector(words_, lineNumber_, sequence_->header(), takeComment()));
 }
 
 void TestSequenceFileReader::validate() const {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "Core/Circuit/FileParser.h"
 
@@ -34,6 +36,7 @@ private:
     TestSequence* sequence_ = nullptr;  ///< not owned
     std::string pendingComment_;
     bool beforeFirstRecord_ = true;
+    std::vector<std::string_view> words_;  ///< of a vector; kept for its room
 };
 
 }  // namespace tarnsim

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Core/Support/Comment.h"
@@ -17,12 +20,18 @@ class TestVectorHeader;
 ///
 /// Cells hold bits, most significant first: hexadecimal digits of the file are written out, a `~` has been carried out.
 /// They are fitted to the width of a port only when they are used.
+///
+/// A file may have hundreds of thousands of vectors, and most are read and never changed. So the cells of a file's
+/// vector stand in one block of letters, until somebody asks for the lists or changes them.
 class TestVector : public CommentableObject {
 public:
     /// For tables made by code: no cells and no header yet.
     explicit TestVector(std::uint32_t time);
     /// Parses the words of a line. `header` isn't owned. Raises an Error that names the line.
-    TestVector(std::vector<std::string> words, int lineNumber, TestVectorHeader* header, const std::string& comment);
+    TestVector(std::span<const std::string_view> words, int lineNumber, TestVectorHeader* header,
+               const std::string& comment);
+    TestVector(const std::vector<std::string>& words, int lineNumber, TestVectorHeader* header,
+               const std::string& comment);
 
     Time time() const { return time_; }
     void setTime(Time time) { time_ = time; }
@@ -33,15 +42,18 @@ public:
     TestVectorHeader* getHeader() const { return header_; }
     void setHeader(TestVectorHeader* header) { header_ = header; }
 
-    int inputCount() const { return static_cast<int>(inputs_.size()); }
-    int outputCount() const { return static_cast<int>(outputs_.size()); }
-    const std::vector<TestColumn>& inputs() const { return inputs_; }
-    const std::vector<TestColumn>& outputs() const { return outputs_; }
+    int inputCount() const;
+    int outputCount() const;
+    const std::vector<TestColumn>& inputs() const { return lists().inputs; }
+    const std::vector<TestColumn>& outputs() const { return lists().outputs; }
 
     // By position, from 0. Empty where there is no cell; writing there has no effect.
 
-    std::string input(int i) const;
-    std::string output(int i) const;
+    std::string input(int i) const { return std::string(inputText(i)); }
+    std::string output(int i) const { return std::string(outputText(i)); }
+    /// The same without a copy, valid until the lists are asked for or a cell changes.
+    std::string_view inputText(int i) const;
+    std::string_view outputText(int i) const;
     void setInput(int i, const std::string& text);
     void setOutput(int i, const std::string& text);
     void addInput(const std::string& text);
@@ -58,12 +70,21 @@ public:
     void moveCellRight(int index);
 
 private:
-    TestColumn parseCell(const std::string& word, bool columnIsReversed) const;
+    struct Lists {
+        std::vector<TestColumn> inputs;
+        std::vector<TestColumn> outputs;
+    };
+    /// Reads and makes a block of cells.
+    class Block;
 
+    void requireCell(std::string_view word, bool columnIsReversed) const;
+    /// Lays the cells out as lists, if they aren't yet.
+    Lists& lists() const;
+
+    mutable std::unique_ptr<std::uint32_t[]> block_;  ///< null if the cells are in lists
+    mutable std::unique_ptr<Lists> lists_;            ///< null if they are in a block, or if there are none
     Time time_ = 0;
     Time deltaTime_ = 0;
-    std::vector<TestColumn> inputs_;
-    std::vector<TestColumn> outputs_;
     int lineNumber_ = 0;
     TestVectorHeader* header_ = nullptr;  ///< the sequence's; not owned
 };

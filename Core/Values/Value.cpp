@@ -196,15 +196,16 @@ bool Value::matches(std::string_view expected) const {
 }
 
 std::string Value::hexToBits(std::string_view text) {
-    std::string bits;
-    bits.reserve(text.size() * 4);
+    std::string bits(text.size() * 4, '\0');
+    char* end = bits.data();
     for (const char c : text) {
         if (isHexDigit(c)) {
-            bits += kDigitBits[digitValue(c)];
+            end = std::ranges::copy(kDigitBits[digitValue(c)], end).out;
         } else {
-            bits += c;
+            *end++ = c;
         }
     }
+    bits.resize(static_cast<std::size_t>(end - bits.data()));
     return bits;
 }
 

@@ -38,6 +38,7 @@ void ValueHistory::recordedLetters(Time time, char* letters) const {
 }
 
 ValueRecords& ValueHistory::ownRecords() {
+    if (records_.use_count() == 1) return *records_;  // the drivers of a bus come here at each set
     if (areRecordsShared()) leaveSharedRecords();
     if (!records_) {
         records_ = std::make_shared<ValueRecords>();

@@ -462,6 +462,33 @@ TEST_F(BusBoard, FollowsItsDriversAtEveryTime) {
     EXPECT_EQ(at(50), "HH");
 }
 
+TEST_F(BusBoard, AValueThatIsSetAgainShowsWhatALateOneMade) {
+    drive(0, 'Z', 0);
+    drive(1, 'Z', 0);
+    drive(2, 'H', 0);
+    drive(2, 'H', 20);
+    EXPECT_EQ(at(20), "HH");
+    // The first one's level reaches up to 20, but what the net has there it keeps until somebody is set there.
+    drive(0, 'L', 10);
+    EXPECT_EQ(at(10), "UU");
+    EXPECT_EQ(at(20), "HH");
+    drive(1, 'Z', 20);
+    EXPECT_EQ(at(20), "UU");
+    EXPECT_EQ(net->recordCount(), 3U);
+    EXPECT_EQ(drivers[1]->recordCount(), 2U);
+    EXPECT_NE(drivers[0]->getBus(), nullptr);
+}
+
+TEST_F(BusBoard, EachValueIsARecordOfItsDriver) {
+    for (const Time time : {0, 10, 20}) {
+        for (const std::size_t driver : {0U, 1U, 2U}) drive(driver, driver == 1 ? 'L' : 'Z', time);
+        EXPECT_EQ(at(time), "LL");
+    }
+    for (const Port* driver : drivers) EXPECT_EQ(driver->recordCount(), 3U);
+    EXPECT_EQ(net->recordCount(), 3U);
+    EXPECT_EQ(inside->recordCount(), 3U);
+}
+
 TEST_F(BusBoard, ItIsCutWhenItFloatsIntoALevelBelow) {
     drivers[2]->disconnect(kInside);
     simulator.prepare(1000);

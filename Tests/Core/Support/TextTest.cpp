@@ -75,6 +75,17 @@ TEST(SplitWords, CutsAtRunsOfWhiteSpace) {
     EXPECT_EQ(splitWords(""), Fields{});
 }
 
+TEST(TakeWord, TakesOneAfterTheOther) {
+    std::string_view text = "\t Unit  And\vu ";
+    EXPECT_EQ(takeWord(text), "Unit");
+    EXPECT_EQ(text, "  And\vu ");
+    EXPECT_EQ(takeWord(text), "And");
+    EXPECT_EQ(takeWord(text), "u");
+    EXPECT_EQ(takeWord(text), "");
+    EXPECT_EQ(text, "");
+    EXPECT_EQ(takeWord(text), "");
+}
+
 TEST(SplitWords, WalksALineOfMegabytes) {
     std::string line(kMegabytes, 'a');
     for (std::size_t i = 1; i < line.size(); i += 2) line[i] = ' ';

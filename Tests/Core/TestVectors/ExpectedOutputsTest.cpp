@@ -52,6 +52,17 @@ TEST(ExpectedOutputs, TheFirstColumnOfANameAnswers) {
     EXPECT_EQ(expectations.at("r", 99), "?") << "the name comes before the time";
 }
 
+TEST(ExpectedOutputs, ColumnsCanBeLookedUpBefore) {
+    const auto sequence = sequenceFrom("time a => q p q\n0 H L H Z\n");
+    const ExpectedOutputs expectations(*sequence);
+    EXPECT_EQ(expectations.columnOf("q"), 0);
+    EXPECT_EQ(expectations.columnOf("p"), 1);
+    EXPECT_EQ(expectations.columnOf("a"), std::nullopt);
+    EXPECT_EQ(expectations.textAt(1, 0), "H");
+    EXPECT_EQ(expectations.textAt(1, 1), "!");
+    EXPECT_EQ(expectations.textAt(std::nullopt, 0), "?");
+}
+
 /// The answer by a walk over all neighbouring pairs.
 std::string byWalk(const TestSequence& sequence, Time time) {
     const auto& vectors = sequence.vectors();
@@ -78,6 +89,10 @@ void compareWithWalk(int greatestDeltaTime) {
         }
         const ExpectedOutputs expectations(sequence);
         for (Time at = -2; at <= time + greatestDeltaTime + 1; ++at) {
+            ASSERT_EQ(expectations.at("q", at), byWalk(sequence, at)) << "round " << round << " at " << at;
+        }
+        for (int i = 0; i < 40; ++i) {
+            const Time at = below(time + greatestDeltaTime + 4) - 2;
             ASSERT_EQ(expectations.at("q", at), byWalk(sequence, at)) << "round " << round << " at " << at;
         }
     }

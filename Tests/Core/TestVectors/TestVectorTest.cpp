@@ -196,6 +196,36 @@ TEST(TestVector, CellsMoveAsTheColumnsDo) {
     }
 }
 
+TEST(TestVector, TextsAreTheSameWithAndWithoutLists) {
+    const Line line("time a b ~c ==(dT)=> q r", "7 ~ 1Z HL 20 ~XL F");
+    const auto expectTexts = [&] {
+        EXPECT_EQ(line.vector.inputText(-1), "");
+        EXPECT_EQ(line.vector.inputText(0), "");
+        EXPECT_EQ(line.vector.inputText(1), "LLLHZ");
+        EXPECT_EQ(line.vector.inputText(2), "LH");
+        EXPECT_EQ(line.vector.inputText(3), "");
+        EXPECT_EQ(line.vector.outputText(-1), "");
+        EXPECT_EQ(line.vector.outputText(0), "LX");
+        EXPECT_EQ(line.vector.outputText(1), "HHHH");
+        EXPECT_EQ(line.vector.outputText(2), "");
+        EXPECT_EQ(line.vector.inputCount(), 3);
+        EXPECT_EQ(line.vector.outputCount(), 2);
+    };
+    expectTexts();
+    EXPECT_EQ(textOf(line.vector), "~ LLLHZ LH => ~LX HHHH");
+    expectTexts();
+}
+
+TEST(TestVector, CellsOfALineCanBeChangedAtOnce) {
+    Line line("time a b => q", "7 ~H 1 Z");
+    line.vector.setInput(1, "U");
+    EXPECT_EQ(textOf(line.vector), "~H U => Z");
+    Line other("time a b => q", "7 ~H 1 Z");
+    other.vector.addOutput("L");
+    EXPECT_EQ(other.vector.outputText(1), "L");
+    EXPECT_EQ(textOf(other.vector), "~H LLLH => Z L");
+}
+
 TEST(TestVector, TheHeaderIsSet) {
     TestVectorHeader header(splitWords("time a"), 1, "");
     TestVector vector(0U);
