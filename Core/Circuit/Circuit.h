@@ -58,6 +58,8 @@ public:
     void evaluate(Time time) override;
     void disconnectPorts() override;
     void applyParameters() override {}
+    Circuit* asCircuit() override { return this; }
+    using Component::asCircuit;
 
     virtual std::unique_ptr<Circuit> cloneCircuit(const Circuit& source) const;
     /// Builds the declaration that `spec` describes, with `parent` around it.
@@ -189,12 +191,12 @@ public:
         Net* net;
     };
     static SplitPath splitPath(const std::string& text);
-    Port* findPort(const std::string& path) const;
+    Port* findPort(std::string_view path) const;
     Circuit* findCircuit(const std::string& path) const;
     /// The last of several nets with one name is the result.
     NetPath resolveNetPath(const std::string& path) const;
-    Net* findNet(const std::string& path) const { return resolveNetPath(path).net; }
-    bool hasNet(const std::string& path) const { return findNet(path) != nullptr; }
+    Net* findNet(std::string_view path) const;
+    bool hasNet(std::string_view path) const { return findNet(path) != nullptr; }
     /// Raises an Error that lists the nets there are. `file` and `line` name the place that asks; `file` may be empty.
     Net* requireNet(const std::string& path, const std::string& file, int line) const;
 
@@ -258,8 +260,8 @@ private:
     void copyChildren(const Circuit& other);
     void copyNets(const Circuit& other);
 
-    /// Where the names of a path lead to; null if one of them isn't there.
-    const Component* walk(const std::vector<std::string>& units) const;
+    /// Where the names of units in front of a path lead to; null if one of them isn't there. Leaves the last name.
+    const Component* walk(std::string_view& path) const;
     std::vector<Net*> collectNets(const std::vector<Port*>& ports) const;
     static Net* mergeNets(const std::vector<Net*>& nets, const std::string& name);
     void removeEmptyNets();

@@ -48,7 +48,7 @@ void Circuit::copyChildren(const Circuit& other) {
         if (ComponentFactory::isBuiltIn(child->getType())) {
             copy = componentFactory_.create(child->getType(), child->getInstanceText());
             copy->setCommentText(child->getCommentText());
-        } else if (const auto* circuit = dynamic_cast<const Circuit*>(child)) {
+        } else if (const Circuit* circuit = child->asCircuit()) {
             copy = componentFactory_.copy(*circuit);
         }
         if (copy == nullptr) {
@@ -84,7 +84,7 @@ using PortPaths = std::unordered_map<const Port*, std::string>;
 /// path of a port stands, as in a search from the top.
 void collectPortPaths(const Component& component, const std::string& prefix, int depth, PortPaths& paths) {
     for (const Port* port : component.getPorts()) paths.emplace(port, prefix + port->getName());
-    const auto* circuit = dynamic_cast<const Circuit*>(&component);
+    const Circuit* circuit = component.asCircuit();
     if (circuit == nullptr || depth == 0) return;
     for (const Component* child : circuit->getComponents()) {
         collectPortPaths(*child, prefix + child->getName() + ".", depth - 1, paths);
@@ -167,7 +167,7 @@ void Circuit::updateInstances(const Circuit& circuit) {
 
     std::vector<Circuit*> instances;
     for (Component* child : children_) {
-        auto* instance = dynamic_cast<Circuit*>(child);
+        Circuit* instance = child->asCircuit();
         if (instance != nullptr && instance != &circuit && instance->getType() == type) instances.push_back(instance);
     }
     for (Circuit* instance : instances) {

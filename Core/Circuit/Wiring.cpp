@@ -49,7 +49,7 @@ void collectComponents(Circuit& circuit, std::vector<Component*>& components) {
         open.pop_back();
         components.push_back(next);
         for (Component* child : next->getComponents()) {
-            if (auto* inner = dynamic_cast<Circuit*>(child)) {
+            if (Circuit* inner = child->asCircuit()) {
                 open.push_back(inner);
             } else {
                 components.push_back(child);

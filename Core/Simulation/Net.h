@@ -62,7 +62,9 @@ public:
     const PinSpec* getPinSpec(const Port* port) const;
     /// Null for a port that is attached to the whole net.
     const PinSpec* findPinSpec(const Port* port) const;
-    bool hasPinSpecs() const { return !pinSpecs_.empty(); }
+    bool hasPinSpecs() const { return special_ && !special_->pinSpecs.empty(); }
+    /// Makes room for that many ports.
+    void reserve(std::size_t count) { ports_.reserve(count); }
 
     /// The attached ports by what they do here, each list in order of attachment. Good until a port is attached or
     /// detached, or its sides or its direction change.
@@ -114,7 +116,7 @@ private:
     class Update;
 
     void cutWire();
-    /// `ports_` or `pinSpecs_` are about to change.
+    /// `ports_` or their bit ranges are about to change.
     void portsChange() {
         cutWire();
         rolesChange();
@@ -126,12 +128,18 @@ private:
     /// Moves one attachment to another net. If that refuses it, the port stays, and so do all that still point here.
     void handOver(Port& port, int side, Net& receiver);
 
-    std::vector<Port*> ports_;        ///< not owned
-    std::vector<Port*> halfRemoved_;  ///< removed, but pointing here by a second side that removePort left alone
-    std::unordered_map<const Port*, const PinSpec*> pinSpecs_;  ///< ports attached to a part of the net
-    std::vector<std::unique_ptr<PinSpec>> ownedPinSpecs_;       ///< those that this net made itself
-    Wire* wire_ = nullptr;                                      ///< not owned; null while the net isn't part of one
-    mutable std::unique_ptr<const Roles> roles_;                ///< null until they are asked for
+    /// What hardly any net has.
+    struct Special {
+        std::unordered_map<const Port*, const PinSpec*> pinSpecs;  ///< ports attached to a part of the net
+        std::vector<std::unique_ptr<PinSpec>> ownedPinSpecs;       ///< those that this net made itself
+        std::vector<Port*> halfRemoved;  ///< removed, but pointing here by a second side that removePort left alone
+    };
+    Special& special();
+
+    std::vector<Port*> ports_;                    ///< not owned
+    std::unique_ptr<Special> special_;            ///< null until it's needed
+    Wire* wire_ = nullptr;                        ///< not owned; null while the net isn't part of one
+    mutable std::unique_ptr<const Roles> roles_;  ///< null until they are asked for
     mutable std::uint64_t lastWalk_ = 0;
     const Update* updates_ = nullptr;  ///< what is under way on this net, innermost first
 };

@@ -162,6 +162,14 @@ public:
     Port* copyPort(const Port& other);
 
 private:
+    template <class Kind>
+    Kind* adopt(std::unique_ptr<Kind> port) {
+        Kind* result = port.get();
+        if (ports_.empty()) ports_.reserve(3);  // as many as the smallest block of memory holds
+        ports_.push_back(std::move(port));
+        return result;
+    }
+
     std::vector<std::unique_ptr<Port>> ports_;
 };
 

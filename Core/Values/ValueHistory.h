@@ -2,9 +2,10 @@
 
 #include <cstdint>
 #include <memory>
-#include <vector>
+#include <span>
 
 #include "Core/Support/CreationNumber.h"
+#include "Core/Support/PointerList.h"
 #include "Core/Values/Time.h"
 #include "Core/Values/Value.h"
 #include "Core/Values/ValueRecords.h"
@@ -73,7 +74,8 @@ public:
 
     void subscribe(ValueChangeSubscriber* subscriber);
     void unsubscribe(ValueChangeSubscriber* subscriber);
-    const std::vector<ValueChangeSubscriber*>& subscribers() const { return subscribers_; }
+    /// In the order in which they are told. Good until it changes.
+    std::span<ValueChangeSubscriber* const> subscribers() const { return subscribers_.items(); }
 
     // The queries read this history's own records, whatever a derived class answers to get.
 
@@ -116,9 +118,9 @@ private:
     Value valueBefore(Time time) const;
     bool isOneBitEdge(Time time, char before, char after) const;
 
-    std::uint32_t width_;
-    std::shared_ptr<ValueRecords> records_;            ///< null until there is one
-    std::vector<ValueChangeSubscriber*> subscribers_;  ///< not owned, ascending by subscriptionOrder
+    std::shared_ptr<ValueRecords> records_;           ///< null until there is one
+    PointerList<ValueChangeSubscriber> subscribers_;  ///< not owned, ascending by subscriptionOrder
+    std::uint32_t width_;  ///< the last member: what a derived class begins with takes the room behind it
 };
 
 }  // namespace tarnsim
