@@ -76,6 +76,7 @@ public:
     virtual void applyParameters() = 0;
     virtual Circuit* getParent() { return parent_; }
     virtual const Circuit* getParent() const { return parent_; }
+    Component* asComponent() override { return this; }
     /// This component as a circuit; null if it's none. Asked so often that a dynamic_cast would be felt.
     virtual Circuit* asCircuit() { return nullptr; }
     const Circuit* asCircuit() const { return const_cast<Component*>(this)->asCircuit(); }

@@ -99,6 +99,14 @@ public:
 
     /// For a walk over joined nets: true the first time that a walk of this number asks.
     bool isNewTo(const CreationNumber& walk) const { return std::exchange(lastWalk_, walk.value()) != walk.value(); }
+    /// What the walk of this number has noted of the net last; 0 if that is nothing, or other walks have come by.
+    std::uint8_t noteOf(const CreationNumber& walk) const {
+        return lastWalk_ == walk.value() ? note_ : std::uint8_t{0};
+    }
+    void setNote(const CreationNumber& walk, std::uint8_t note) const {
+        lastWalk_ = walk.value();
+        note_ = note;
+    }
 
     /// One line with the names of the ports, through TLog.
     void dump() const;
@@ -136,6 +144,7 @@ private:
     };
     Special& special();
 
+    mutable std::uint8_t note_ = 0;               ///< of `lastWalk_`
     std::vector<Port*> ports_;                    ///< not owned
     std::unique_ptr<Special> special_;            ///< null until it's needed
     Wire* wire_ = nullptr;                        ///< not owned; null while the net isn't part of one

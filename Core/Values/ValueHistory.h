@@ -12,6 +12,7 @@
 
 namespace tarnsim {
 
+class Component;
 class ValueHistory;
 
 /// What a subscriber is told: at `time` the signal leaves `oldValue` for `newValue`.
@@ -29,6 +30,10 @@ public:
     /// Called before the history takes the new value: whoever reads it during the call still sees the old one. The call
     /// may set other histories, but mustn't change this history's subscribers.
     virtual void valueChanged(ValueHistory* history, const ValueChange& change) = 0;
+
+    /// This subscriber as a component; null if it's none. A dynamic_cast for each would be felt when a large board is
+    /// prepared.
+    virtual Component* asComponent() { return nullptr; }
 
     /// Subscribers of one history are told in the order in which they were created.
     std::uint64_t subscriptionOrder() const { return creationNumber_.value(); }
