@@ -35,8 +35,7 @@ CircuitVerifier::CircuitVerifier(const std::string& circuitFile, const std::stri
     ownSequence_ = std::make_unique<TestSequence>(ioFile);
     sequence_ = ownSequence_.get();
     Circuit* circuit = keepToTheEnd(std::make_unique<Circuit>(spec.getName(), nullptr));
-    circuit->setSpec(spec);
-    spec.forgetStatements();
+    circuit->setSpec(std::move(spec));
     setUp(circuit);
 }
 

@@ -69,7 +69,10 @@ public:
 
     /// Builds everything from a parsed file, in passes: declarations, units, ports, pins, nets, meta data, import
     /// paths, free comments. So a statement may use what stands below it. After an Error the circuit stays half built.
-    void setSpec(const CircuitSpec& spec);
+    void setSpec(const CircuitSpec& spec) { setSpec(spec, nullptr); }
+    /// The same for statements that nobody needs afterwards. They go as soon as they are built, so that those of a large
+    /// board don't stand beside all of its objects.
+    void setSpec(CircuitSpec&& spec) { setSpec(spec, &spec); }
     /// What setSpec was given, as long as it lives; null after that.
     const CircuitSpec* getSpec() const { return spec_.lock().get(); }
 
@@ -247,7 +250,9 @@ protected:
 private:
     // One pass of setSpec each.
 
-    void buildFromSpec(const CircuitSpec& spec);
+    /// `consumed` is the same spec if its statements may go, and null if not.
+    void setSpec(const CircuitSpec& spec, CircuitSpec* consumed);
+    void buildFromSpec(const CircuitSpec& spec, CircuitSpec* consumed);
     void addUnit(const UnitLine& line);
     void addPort(const PortLine& line);
     void addPin(const PinLine& line);
@@ -257,6 +262,7 @@ private:
     Port* makePin(const std::string& text, Direction direction, const Line& line);
     Port* requirePort(const std::string& path, const Line& line) const;
 
+    class Counterparts;
     void copyChildren(const Circuit& other);
     void copyNets(const Circuit& other);
 
@@ -275,7 +281,7 @@ private:
     std::weak_ptr<const CircuitSpec> spec_;
     NamedList<Component> children_;  ///< not owned here
     /// Not owned here; none twice. Watched from the first one on: a net that was taken over from a unit dies with that.
-    NamedList<Net> nets_{0};
+    NamedList<Net, 0> nets_;
     std::map<std::string, std::vector<std::string>> metaData_;
     std::vector<std::unique_ptr<Comment>> comments_;
     ComponentFactory componentFactory_;  ///< owns units and declarations

@@ -55,7 +55,7 @@ private:
 
 }  // namespace
 
-void Circuit::setSpec(const CircuitSpec& spec) {
+void Circuit::setSpec(const CircuitSpec& spec, CircuitSpec* consumed) {
     spec_ = spec.watch();
     if (spec.isInline()) {
         clearFilePath();
@@ -64,13 +64,15 @@ void Circuit::setSpec(const CircuitSpec& spec) {
     }
     sourceFile_ = spec.getSourceFile();
     setName(spec.getName());
-    buildFromSpec(spec);
+    buildFromSpec(spec, consumed);
+    if (consumed != nullptr) consumed->forgetStatements();
     if (!spec.isInline()) onLoaded(this);
 }
 
-void Circuit::buildFromSpec(const CircuitSpec& spec) {
+void Circuit::buildFromSpec(const CircuitSpec& spec, CircuitSpec* consumed) {
     for (const auto& subSpec : spec.subSpecs) addDeclaration(*subSpec);
     for (const UnitLine& line : spec.unitLines) addUnit(line);
+    if (consumed != nullptr) consumed->forgetUnits();
     for (const PortLine& line : spec.portLines) addPort(line);
     for (const PinLine& line : spec.pinLines) addPin(line);
     for (const NetLine& line : spec.netLines) addNet(line);

@@ -60,18 +60,67 @@ void Circuit::copyChildren(const Circuit& other) {
     }
 }
 
-void Circuit::copyNets(const Circuit& other) {
-    const auto paths = other.pathsOfNetPorts();
-    for (Net* net : other.nets_) {
-        std::vector<Port*> ports;
-        for (const Port* port : net->getPorts()) {
-            const std::string& path = paths.at(port);
-            Port* counterpart = findPort(path);
-            if (counterpart == nullptr) {
-                throw Error("Cann't find port path '%s' in circuit '%s'", path.c_str(), getName().c_str());
-            }
-            ports.push_back(counterpart);
+/// For the nets of a circuit that is being copied: which ports of the copy they are to join. A path leads to each, but
+/// nearly all of them hang on the circuit itself or on a unit, and these are found without writing the path out.
+class Circuit::Counterparts {
+public:
+    Counterparts(const Circuit& source, const Circuit& copy) : source_(source), copy_(copy) {
+        add(source, &copy);
+        for (const Component* child : source.children_) add(*child, copy.children_.findFirst(child->getName()));
+        // Mostly they are: the ports of a unit are made one after the other, and so are the units.
+        if (!std::ranges::is_sorted(places_, {}, &Place::port)) std::ranges::stable_sort(places_, {}, &Place::port);
+    }
+
+    Port* of(const Port* port) {
+        if (const Place* place = find(port)) {
+            Port* found = place->owner == nullptr ? nullptr : place->owner->Component::findPort(port->getName());
+            return found != nullptr ? found : searched(pathOf(port));
         }
+        return searched(pathOf(port));
+    }
+
+private:
+    struct Place {
+        const Port* port;
+        const Component* owner;  ///< of its counterpart; null if there's none
+    };
+
+    void add(const Component& owner, const Component* counterpart) {
+        // A name with a dot in it reads as a path.
+        if (&owner != &source_ && owner.getName().find('.') != std::string::npos) return;
+        for (const Port* port : owner.getPorts()) {
+            if (port->getName().find('.') == std::string::npos) places_.push_back({port, counterpart});
+        }
+    }
+    /// The first place of a port stands, as in a search from the top.
+    const Place* find(const Port* port) const {
+        const auto found = std::ranges::lower_bound(places_, port, {}, &Place::port);
+        return found == places_.end() || found->port != port ? nullptr : &*found;
+    }
+    const std::string& pathOf(const Port* port) {
+        if (paths_.empty()) paths_ = source_.pathsOfNetPorts();
+        return paths_.at(port);
+    }
+    Port* searched(const std::string& path) const {
+        Port* found = copy_.findPort(path);
+        if (found == nullptr) {
+            throw Error("Cann't find port path '%s' in circuit '%s'", path.c_str(), copy_.getName().c_str());
+        }
+        return found;
+    }
+
+    const Circuit& source_;
+    const Circuit& copy_;
+    std::vector<Place> places_;                           ///< ascending by port
+    std::unordered_map<const Port*, std::string> paths_;  ///< empty until it's needed
+};
+
+void Circuit::copyNets(const Circuit& other) {
+    Counterparts counterparts(other, *this);
+    std::vector<Port*> ports;
+    for (Net* net : other.nets_) {
+        ports.clear();
+        for (const Port* port : net->getPorts()) ports.push_back(counterparts.of(port));
         createNet(net->getName(), ports)->setCommentText(net->getCommentText());
     }
 }

@@ -34,12 +34,14 @@ std::size_t countPorts(std::span<const NetLine> nets) {
 CircuitSpec::CircuitSpec(const std::string& fileName)
     : name_(fileName), fileName_(fileName), current_(this), parentSpec_(nullptr) {
     parseFile(fileName);
+    forgetPorts();
 }
 
 CircuitSpec::CircuitSpec(const std::string& fileName, const std::string& contents)
     : name_(fileName), fileName_(fileName), current_(this), parentSpec_(nullptr) {
     TextFile file(fileName, contents);
     parseLines(file, fileName);
+    forgetPorts();
 }
 
 CircuitSpec::CircuitSpec(CircuitSpec* parent, const std::string& name)
@@ -83,7 +85,7 @@ void CircuitSpec::parseLines(TextFile& file, const std::string& found) {
     current_->checkSharedPorts();
 }
 
-void CircuitSpec::handleLine(std::string line) {
+void CircuitSpec::handleLine(std::string& line) {
     ++current_->lineNumber_;
     // Only a line without any character ends a comment block; one with blanks doesn't.
     const bool isEmpty = line.empty();
@@ -226,15 +228,34 @@ std::string CircuitSpec::resolveFile(const std::string& path) const {
     return path;
 }
 
+namespace {
+
+/// To clear a list leaves it its memory.
+template <class List>
+void release(List& list) {
+    List().swap(list);
+}
+
+}  // namespace
+
+void CircuitSpec::forgetUnits() {
+    release(unitLines);
+}
+
 void CircuitSpec::forgetStatements() {
     for (const auto& body : subSpecs) body->forgetStatements();
-    unitLines = {};
-    netLines = {};
-    portLines = {};
-    pinLines = {};
-    metaDataLines = {};
-    freeComments = {};
-    namedPorts_ = {};
+    forgetUnits();
+    release(netLines);
+    release(portLines);
+    release(pinLines);
+    release(metaDataLines);
+    release(freeComments);
+    forgetPorts();
+}
+
+void CircuitSpec::forgetPorts() {
+    for (const auto& body : subSpecs) body->forgetPorts();
+    release(namedPorts_);
     namedPortCount_ = checkedNets_ = 0;
 }
 

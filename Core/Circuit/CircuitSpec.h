@@ -48,6 +48,8 @@ public:
 
     /// Lets go of all statements, here and in the nested bodies: they have been built. Names and files stay.
     void forgetStatements();
+    /// Of the units of this body alone.
+    void forgetUnits();
 
     /// For those who keep a pointer to this object: it's empty as soon as the object is gone.
     std::weak_ptr<const CircuitSpec> watch() const { return lifetime_; }
@@ -70,7 +72,8 @@ private:
 
     void parseFile(const std::string& path);
     void parseLines(TextFile& file, const std::string& found);
-    void handleLine(std::string line);
+    /// Changes the line.
+    void handleLine(std::string& line);
     void handleStatement(const std::string& line);
     void handleCircuit(const Fields& fields, const std::string& line);
     void handleClosingBrace(const Fields& fields);
@@ -105,6 +108,8 @@ private:
     /// The place of a port in `namedPorts_`, a free one if no net names it.
     NamedPort& placeOf(const std::string& port, std::uint32_t hash);
     void makeRoomForPorts(std::size_t count);
+    /// The files are read: no further check comes.
+    void forgetPorts();
 
     // For checkSharedPorts.
     std::vector<NamedPort> namedPorts_;  ///< an open hash table: of a board's names, a map of texts would be its double

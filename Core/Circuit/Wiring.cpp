@@ -214,8 +214,14 @@ class Wiring::Layer {
     }
 
 public:
-    Layer(const std::shared_ptr<Wires>& wires, EventSimulator& simulator)
-        : owner_(wires), wires_(*wires), simulator_(simulator), finder_(simulator) {}
+    /// `ports` is about the number of ports there are.
+    Layer(const std::shared_ptr<Wires>& wires, EventSimulator& simulator, std::size_t ports)
+        : owner_(wires), wires_(*wires), simulator_(simulator), finder_(simulator) {
+        wires_.ports.reserve(ports);
+        wires_.listeners.reserve(ports);
+        wires_.nets.reserve(ports / 2);
+        begins_.reserve(ports / 2);
+    }
 
     /// Collects what the port drives through a net, if one wire can take it.
     void layFrom(Port& driver) {
@@ -362,6 +368,7 @@ constexpr std::size_t kLargeBoard = 500;
 void notePlaces(const std::vector<Component*>& components, EventSimulator& simulator) {
     constexpr std::size_t kMostPorts = 8;
     std::vector<const void*> places;
+    simulator.events().reservePlaces(components.size() * 12);
     for (Component* component : components) {
         const auto own = component->hotPlaces();
         places.assign(own.begin(), own.end());
@@ -386,7 +393,10 @@ Wiring::Wiring(Circuit& root, EventSimulator& simulator) : wires_(std::make_shar
     collectComponents(root, components);
     numberEvents(components, simulator);
     {
-        Layer layer(wires_, simulator);
+        // More than is needed, but memory that isn't touched costs nothing; lists that grow would be copied.
+        std::size_t ports = 0;
+        for (const Component* component : components) ports += component->getPorts().size();
+        Layer layer(wires_, simulator, ports);
         for (const Component* component : components) {
             for (Port* port : component->getPorts()) layer.layFrom(*port);
         }

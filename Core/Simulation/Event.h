@@ -49,6 +49,10 @@ public:
 
     /// Makes room for that many events.
     void reserve(std::size_t events);
+    void reservePlaces(std::size_t places) {
+        touched_.reserve(entries_.size());
+        places_.reserve(places);
+    }
     /// Notes what is touched when the event is called, to be fetched shortly before. Just hints: nothing is read.
     void setTouched(EventNumber number, std::span<const void* const> places);
     /// The event is called soon.

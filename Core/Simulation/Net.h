@@ -98,14 +98,16 @@ public:
     void update(Time time) { update(time, NetSet()); }
 
     /// For a walk over joined nets: true the first time that a walk of this number asks.
-    bool isNewTo(const CreationNumber& walk) const { return std::exchange(lastWalk_, walk.value()) != walk.value(); }
+    bool isNewTo(const CreationNumber& walk) const {
+        const std::uint64_t former = std::exchange(lastWalk_, walk.value() << kNoteBits);
+        return former >> kNoteBits != walk.value();
+    }
     /// What the walk of this number has noted of the net last; 0 if that is nothing, or other walks have come by.
     std::uint8_t noteOf(const CreationNumber& walk) const {
-        return lastWalk_ == walk.value() ? note_ : std::uint8_t{0};
+        return lastWalk_ >> kNoteBits == walk.value() ? static_cast<std::uint8_t>(lastWalk_) : std::uint8_t{0};
     }
     void setNote(const CreationNumber& walk, std::uint8_t note) const {
-        lastWalk_ = walk.value();
-        note_ = note;
+        lastWalk_ = walk.value() << kNoteBits | note;
     }
 
     /// One line with the names of the ports, through TLog.
@@ -144,12 +146,12 @@ private:
     };
     Special& special();
 
-    mutable std::uint8_t note_ = 0;               ///< of `lastWalk_`
     std::vector<Port*> ports_;                    ///< not owned
     std::unique_ptr<Special> special_;            ///< null until it's needed
     Wire* wire_ = nullptr;                        ///< not owned; null while the net isn't part of one
     mutable std::unique_ptr<const Roles> roles_;  ///< null until they are asked for
-    mutable std::uint64_t lastWalk_ = 0;
+    static constexpr unsigned kNoteBits = 8;
+    mutable std::uint64_t lastWalk_ = 0;  ///< its number, and below it what it noted
     const Update* updates_ = nullptr;  ///< what is under way on this net, innermost first
 };
 

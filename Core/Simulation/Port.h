@@ -116,10 +116,11 @@ private:
     Value readInout(Time time) const;
     Value withoutZ(Value value) const;
 
-    Direction direction_;
-    Net* outsideNet_ = nullptr;  ///< not owned
-    Net* insideNet_ = nullptr;   ///< not owned
+    // These two take the room behind the members of ValueHistory: a board has more ports than anything else.
+    Direction direction_ : 8;
     bool ztr_ = true;
+    Net* outsideNet_ = nullptr;                  ///< not owned
+    Net* insideNet_ = nullptr;                   ///< not owned
     Wire* drivenWire_ = nullptr;                 ///< not owned
     Wire* wire_ = nullptr;                       ///< not owned; null while the port isn't part of one
     const ValueRecords* wireRecords_ = nullptr;  ///< not owned

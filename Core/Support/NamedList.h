@@ -20,13 +20,12 @@ namespace tarnsim {
 ///
 /// Short lists (the ports of a gate) are walked, as that's faster and needs no memory. A longer one builds an index by
 /// name, and from then on an object that dies leaves the list by itself. With a `longestWalk` of 0 that holds for all.
-template <class T>
+template <class T, std::size_t longestWalk = 16>
 class NamedList {
 public:
     using const_iterator = typename std::vector<T*>::const_iterator;
 
-    /// A list of more than `longestWalk` objects gets an index.
-    explicit NamedList(std::size_t longestWalk = 16) : longestWalk_(longestWalk) {}
+    NamedList() = default;
     NamedList(const NamedList&) = delete;
     NamedList& operator=(const NamedList&) = delete;
 
@@ -42,7 +41,7 @@ public:
         items_.push_back(item);
         if (index_) {
             index_->add(item);
-        } else if (items_.size() > longestWalk_) {
+        } else if (items_.size() > longestWalk) {
             index_ = std::make_unique<Index>(*this);
             for (T* each : items_) index_->add(each);
         }
@@ -225,7 +224,6 @@ private:
     /// The smallest block of memory holds three pointers, which is what a gate needs.
     static constexpr std::size_t kFewest = 3;
 
-    std::size_t longestWalk_;
     std::vector<T*> items_;         ///< not owned
     std::unique_ptr<Index> index_;  ///< null while the list is short
 };
