@@ -241,7 +241,11 @@ Net* Circuit::createNet(const std::string& name, const std::vector<Port*>& ports
         const int side = sideTowards(*this, port);
         if (port->getNet(side) == nullptr) net->addPort(port, side);
     }
-    addNet(net, name);
+    if (present.empty()) {
+        nets_.append(net);  // a new one, and its name is free
+    } else {
+        addNet(net, name);
+    }
     return net;
 }
 

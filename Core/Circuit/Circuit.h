@@ -70,8 +70,8 @@ public:
     /// Builds everything from a parsed file, in passes: declarations, units, ports, pins, nets, meta data, import
     /// paths, free comments. So a statement may use what stands below it. After an Error the circuit stays half built.
     void setSpec(const CircuitSpec& spec) { setSpec(spec, nullptr); }
-    /// The same for statements that nobody needs afterwards. They go as soon as they are built, so that those of a large
-    /// board don't stand beside all of its objects.
+    /// The same for statements that nobody needs afterwards. They go as soon as they are built, so that those of a
+    /// large board don't stand beside all of its objects.
     void setSpec(CircuitSpec&& spec) { setSpec(spec, &spec); }
     /// What setSpec was given, as long as it lives; null after that.
     const CircuitSpec* getSpec() const { return spec_.lock().get(); }
@@ -256,6 +256,7 @@ private:
     void addUnit(const UnitLine& line);
     void addPort(const PortLine& line);
     void addPin(const PinLine& line);
+    void addNets(const std::vector<NetLine>& lines);
     void addNet(const NetLine& line);
     Component* makeUnit(const UnitLine& line, const std::string& name);
     Port* makePort(const std::string& text, std::uint32_t size, Direction direction, const Line& line);

@@ -1,6 +1,8 @@
 // Copies of circuits, declarations, and the units that are made from them.
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
 #include <limits>
 
 #include "Core/Circuit/Circuit.h"
@@ -65,43 +67,48 @@ void Circuit::copyChildren(const Circuit& other) {
 class Circuit::Counterparts {
 public:
     Counterparts(const Circuit& source, const Circuit& copy) : source_(source), copy_(copy) {
-        add(source, &copy);
-        for (const Component* child : source.children_) add(*child, copy.children_.findFirst(child->getName()));
-        // Mostly they are: the ports of a unit are made one after the other, and so are the units.
-        if (!std::ranges::is_sorted(places_, {}, &Place::port)) std::ranges::stable_sort(places_, {}, &Place::port);
+        std::size_t ports = source.getPorts().size();
+        for (const Component* child : source.children_) ports += child->getPorts().size();
+        places_.resize(std::bit_ceil(2 * ports + 1));
+        add(source, &copy, false);
+        for (const Component* child : source.children_) {
+            add(*child, copy.children_.findFirst(child->getName()), hasDot(*child));
+        }
     }
 
     Port* of(const Port* port) {
-        if (const Place* place = find(port)) {
-            Port* found = place->owner == nullptr ? nullptr : place->owner->Component::findPort(port->getName());
-            return found != nullptr ? found : searched(pathOf(port));
-        }
-        return searched(pathOf(port));
+        const Place& place = placeOf(port);
+        const bool isAtHand = place.owner != nullptr && !hasDot(*port);
+        Port* found = isAtHand ? place.owner->Component::findPort(port->getName()) : nullptr;
+        return found != nullptr ? found : search(port);
     }
 
 private:
     struct Place {
-        const Port* port;
-        const Component* owner;  ///< of its counterpart; null if there's none
+        const Port* port = nullptr;
+        const Component* owner = nullptr;  ///< of its counterpart; null if that has to be searched
     };
 
-    void add(const Component& owner, const Component* counterpart) {
-        // A name with a dot in it reads as a path.
-        if (&owner != &source_ && owner.getName().find('.') != std::string::npos) return;
+    /// Such a name reads as a path.
+    static bool hasDot(const BaseObject& object) { return object.getName().find('.') != std::string::npos; }
+
+    void add(const Component& owner, const Component* counterpart, bool isSearched) {
         for (const Port* port : owner.getPorts()) {
-            if (port->getName().find('.') == std::string::npos) places_.push_back({port, counterpart});
+            Place& place = placeOf(port);
+            // The first path of a port stands, as in a search from the top.
+            if (place.port == nullptr) place = {port, isSearched ? nullptr : counterpart};
         }
     }
-    /// The first place of a port stands, as in a search from the top.
-    const Place* find(const Port* port) const {
-        const auto found = std::ranges::lower_bound(places_, port, {}, &Place::port);
-        return found == places_.end() || found->port != port ? nullptr : &*found;
+    /// In an open hash table; a free place if the port isn't there.
+    Place& placeOf(const Port* port) {
+        const std::size_t mask = places_.size() - 1;
+        std::size_t at = (reinterpret_cast<std::uintptr_t>(port) >> 4U) * 0x9E3779B1U >> 8U & mask;
+        while (places_[at].port != nullptr && places_[at].port != port) at = (at + 1) & mask;
+        return places_[at];
     }
-    const std::string& pathOf(const Port* port) {
+    Port* search(const Port* port) {
         if (paths_.empty()) paths_ = source_.pathsOfNetPorts();
-        return paths_.at(port);
-    }
-    Port* searched(const std::string& path) const {
+        const std::string& path = paths_.at(port);
         Port* found = copy_.findPort(path);
         if (found == nullptr) {
             throw Error("Cann't find port path '%s' in circuit '%s'", path.c_str(), copy_.getName().c_str());
@@ -111,7 +118,7 @@ private:
 
     const Circuit& source_;
     const Circuit& copy_;
-    std::vector<Place> places_;                           ///< ascending by port
+    std::vector<Place> places_;
     std::unordered_map<const Port*, std::string> paths_;  ///< empty until it's needed
 };
 

@@ -85,6 +85,17 @@ public:
         return found == items_.rend() ? nullptr : *found;
     }
 
+    // Hints that the name will be looked up before long: what that is going to touch is fetched, the index first, and
+    // the object at a second hint. In a list of thousands of objects, looked up in any order, waiting for memory is
+    // most of it.
+
+    void expect(std::string_view name) const {
+        if (index_) index_->fetchSlot(name);
+    }
+    void expectObject(std::string_view name) const {
+        if (index_) index_->fetchObject(name);
+    }
+
     std::size_t count(std::string_view name) const {
         if (index_) return index_->count(name);
         return static_cast<std::size_t>(
@@ -127,6 +138,15 @@ private:
                 if (best == nullptr || better(slot.position, best->position)) best = &slot;
             });
             return best == nullptr ? nullptr : static_cast<T*>(best->object);
+        }
+
+        void fetchSlot(std::string_view name) const { __builtin_prefetch(&slots_[home(hashOf(name))]); }
+        void fetchObject(std::string_view name) const {
+            const std::uint32_t hash = hashOf(name);
+            std::size_t at = home(hash);
+            while (slots_[at].object != nullptr && slots_[at].hash != hash) at = next(at);
+            const auto* object = reinterpret_cast<const char*>(slots_[at].object);
+            for (std::size_t line = 0; line < sizeof(T); line += 64) __builtin_prefetch(object + line);
         }
 
         std::size_t count(std::string_view name) const {
