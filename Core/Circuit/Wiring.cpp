@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <deque>
+#include <memory>
 #include <span>
 #include <typeinfo>
 #include <unordered_set>
@@ -190,6 +191,43 @@ private:
     std::vector<Net*> group_;  ///< the last net of the path and those that are joined to it
 };
 
+namespace {
+
+/// As many wires as are known beforehand, in one block: they can't move, and many small blocks would lose a quarter to
+/// the alignment of a wire.
+class WireRow {
+public:
+    WireRow() = default;
+    ~WireRow() {
+        std::destroy_n(first_, size_);
+        if (first_ != nullptr) std::allocator<Wire>().deallocate(first_, room_);
+    }
+    WireRow(const WireRow&) = delete;
+    WireRow& operator=(const WireRow&) = delete;
+
+    /// REQUIRES: called once
+    void reserve(std::size_t room) {
+        if (room == 0) return;
+        first_ = std::allocator<Wire>().allocate(room);
+        room_ = room;
+    }
+    /// REQUIRES: there is room
+    Wire& append(EventSimulator& simulator, const Wire::Members& members) {
+        Wire* wire = std::construct_at(first_ + size_, simulator, members);
+        ++size_;
+        return *wire;
+    }
+    Wire* begin() { return first_; }
+    Wire* end() { return first_ + size_; }
+
+private:
+    Wire* first_ = nullptr;
+    std::size_t size_ = 0;
+    std::size_t room_ = 0;
+};
+
+}  // namespace
+
 /// What wires and buses refer to, in rows: what a pass of events touches lies close together.
 struct Wiring::Wires {
     std::vector<Wire::Listener> listeners;
@@ -202,7 +240,8 @@ struct Wiring::Wires {
         std::vector<Wire::Listener> listeners;
     };
     std::deque<Lone> lones;
-    std::deque<Wire> wires;
+    std::deque<Wire> loneWires;
+    WireRow wires;
     std::deque<Bus> buses;
 };
 
@@ -237,11 +276,12 @@ public:
 
     /// Makes the wires of all that was collected. REQUIRES: called once
     void joinAll() {
+        wires_.wires.reserve(begins_.size());
         begins_.push_back(extent());
         for (std::size_t i = 0; i + 1 < begins_.size(); ++i) {
             const Extent& begin = begins_[i];
             const Extent& end = begins_[i + 1];
-            Wire& wire = wires_.wires.emplace_back(
+            Wire& wire = wires_.wires.append(
                 simulator_,
                 Wire::Members{begin.driver, begin.passesZ, part(wires_.listeners, begin.listeners, end.listeners),
                               part(wires_.ports, begin.ports, end.ports), part(wires_.nets, begin.nets, end.nets)});
@@ -261,7 +301,7 @@ public:
         addListeners(port, lone.listeners);
         const bool passesZ = port.readNet() == nullptr;
         const Wire::Members members{&port, passesZ, lone.listeners, {&lone.port, 1}, {}};
-        wires_.wires.emplace_back(simulator_, members).join(owner_);
+        wires_.loneWires.emplace_back(simulator_, members).join(owner_);
     }
 
 private:
@@ -410,6 +450,7 @@ Wiring::Wiring(Circuit& root, EventSimulator& simulator) : wires_(std::make_shar
 
 Wiring::~Wiring() {
     for (Wire& wire : wires_->wires) wire.cut();
+    for (Wire& wire : wires_->loneWires) wire.cut();
 }
 
 }  // namespace tarnsim
