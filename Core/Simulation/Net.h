@@ -106,9 +106,7 @@ public:
     std::uint8_t noteOf(const CreationNumber& walk) const {
         return lastWalk_ >> kNoteBits == walk.value() ? static_cast<std::uint8_t>(lastWalk_) : std::uint8_t{0};
     }
-    void setNote(const CreationNumber& walk, std::uint8_t note) const {
-        lastWalk_ = walk.value() << kNoteBits | note;
-    }
+    void setNote(const CreationNumber& walk, std::uint8_t note) const { lastWalk_ = walk.value() << kNoteBits | note; }
 
     /// One line with the names of the ports, through TLog.
     void dump() const;
@@ -152,7 +150,7 @@ private:
     mutable std::unique_ptr<const Roles> roles_;  ///< null until they are asked for
     static constexpr unsigned kNoteBits = 8;
     mutable std::uint64_t lastWalk_ = 0;  ///< its number, and below it what it noted
-    const Update* updates_ = nullptr;  ///< what is under way on this net, innermost first
+    const Update* updates_ = nullptr;     ///< what is under way on this net, innermost first
 };
 
 /// Makes nets and owns them.
