@@ -16,10 +16,9 @@ namespace tarnsim {
 
 namespace {
 
-/// Loaded circuits live as long as the process: whoever got hold of one through a verifier may go on with it. So the
-/// list is never destroyed; the system takes their memory back at once, however many records there are in it.
+/// Loaded circuits live as long as the process: whoever got hold of one through a verifier may go on with it.
 Circuit* keepToTheEnd(std::unique_ptr<Circuit> circuit) {
-    static auto& circuits = *new std::vector<std::unique_ptr<Circuit>>();
+    static std::vector<std::unique_ptr<Circuit>> circuits;
     return circuits.emplace_back(std::move(circuit)).get();
 }
 
@@ -47,11 +46,11 @@ bool isTheSame(std::string_view actual, std::string_view expected) {
 }  // namespace
 
 CircuitVerifier::CircuitVerifier(const std::string& circuitFile, const std::string& ioFile) {
-    const CircuitSpec spec(circuitFile);
+    CircuitSpec spec(circuitFile);
     ownSequence_ = std::make_unique<TestSequence>(ioFile);
     sequence_ = ownSequence_.get();
     Circuit* circuit = keepToTheEnd(std::make_unique<Circuit>(spec.getName(), nullptr));
-    circuit->setSpec(spec);
+    circuit->setSpec(std::move(spec));
     setUp(circuit);
 }
 

@@ -161,7 +161,7 @@ void Circuit::addChild(Component* component, const Line* line) {
     component->setParent(this);
     children_.append(component);
 
-    auto* circuit = dynamic_cast<Circuit*>(component);
+    Circuit* circuit = component->asCircuit();
     if (circuit == nullptr || ComponentFactory::isBuiltIn(circuit->getType()) || findDeclaration(circuit->getType()))
         return;
     circuit->clearFilePath();
@@ -236,11 +236,16 @@ Net* Circuit::createNet(const std::string& name, const std::vector<Port*>& ports
     if (hasNet(name)) throw Error("Duplicate net names: '%s', in circuit '%s'.", name.c_str(), getName().c_str());
     const std::vector<Net*> present = collectNets(ports);
     Net* net = present.empty() ? netFactory_.createNet(name, 0) : mergeNets(present, name);
+    net->reserve(net->getPorts().size() + ports.size());
     for (Port* port : ports) {
         const int side = sideTowards(*this, port);
         if (port->getNet(side) == nullptr) net->addPort(port, side);
     }
-    addNet(net, name);
+    if (present.empty()) {
+        nets_.append(net);  // a new one, and its name is free
+    } else {
+        addNet(net, name);
+    }
     return net;
 }
 
@@ -300,7 +305,7 @@ void Circuit::pruneNets(std::size_t minPorts) {
         return isPruned;
     });
     for (Component* child : children_) {
-        if (auto* circuit = dynamic_cast<Circuit*>(child)) circuit->pruneNets(minPorts);
+        if (Circuit* circuit = child->asCircuit()) circuit->pruneNets(minPorts);
     }
     removeEmptyNets();
 }
@@ -308,7 +313,7 @@ void Circuit::pruneNets(std::size_t minPorts) {
 void Circuit::checkConnections() const {
     for (const Component* child : children_) {
         child->Component::checkConnections();
-        if (const auto* circuit = dynamic_cast<const Circuit*>(child)) circuit->checkConnections();
+        if (const Circuit* circuit = child->asCircuit()) circuit->checkConnections();
     }
 }
 
@@ -322,7 +327,7 @@ void printComponents(const List& list, const char* lineFormat, bool deep) {
     for (const auto* each : list) {
         entries.log(lineFormat, index++, each->getType().c_str(), each->getName().c_str(),
                     static_cast<const void*>(each));
-        const auto* circuit = dynamic_cast<const Circuit*>(static_cast<const Component*>(each));
+        const Circuit* circuit = static_cast<const Component*>(each)->asCircuit();
         if (deep && circuit != nullptr) circuit->print(deep);
     }
 }

@@ -58,6 +58,8 @@ public:
     void evaluate(Time time) override;
     void disconnectPorts() override;
     void applyParameters() override {}
+    Circuit* asCircuit() override { return this; }
+    using Component::asCircuit;
 
     virtual std::unique_ptr<Circuit> cloneCircuit(const Circuit& source) const;
     /// Builds the declaration that `spec` describes, with `parent` around it.
@@ -67,7 +69,10 @@ public:
 
     /// Builds everything from a parsed file, in passes: declarations, units, ports, pins, nets, meta data, import
     /// paths, free comments. So a statement may use what stands below it. After an Error the circuit stays half built.
-    void setSpec(const CircuitSpec& spec);
+    void setSpec(const CircuitSpec& spec) { setSpec(spec, nullptr); }
+    /// The same for statements that nobody needs afterwards. They go as soon as they are built, so that those of a
+    /// large board don't stand beside all of its objects.
+    void setSpec(CircuitSpec&& spec) { setSpec(spec, &spec); }
     /// What setSpec was given, as long as it lives; null after that.
     const CircuitSpec* getSpec() const { return spec_.lock().get(); }
 
@@ -189,12 +194,12 @@ public:
         Net* net;
     };
     static SplitPath splitPath(const std::string& text);
-    Port* findPort(const std::string& path) const;
+    Port* findPort(std::string_view path) const;
     Circuit* findCircuit(const std::string& path) const;
     /// The last of several nets with one name is the result.
     NetPath resolveNetPath(const std::string& path) const;
-    Net* findNet(const std::string& path) const { return resolveNetPath(path).net; }
-    bool hasNet(const std::string& path) const { return findNet(path) != nullptr; }
+    Net* findNet(std::string_view path) const;
+    bool hasNet(std::string_view path) const { return findNet(path) != nullptr; }
     /// Raises an Error that lists the nets there are. `file` and `line` name the place that asks; `file` may be empty.
     Net* requireNet(const std::string& path, const std::string& file, int line) const;
 
@@ -245,21 +250,25 @@ protected:
 private:
     // One pass of setSpec each.
 
-    void buildFromSpec(const CircuitSpec& spec);
+    /// `consumed` is the same spec if its statements may go, and null if not.
+    void setSpec(const CircuitSpec& spec, CircuitSpec* consumed);
+    void buildFromSpec(const CircuitSpec& spec, CircuitSpec* consumed);
     void addUnit(const UnitLine& line);
     void addPort(const PortLine& line);
     void addPin(const PinLine& line);
+    void addNets(const std::vector<NetLine>& lines);
     void addNet(const NetLine& line);
     Component* makeUnit(const UnitLine& line, const std::string& name);
     Port* makePort(const std::string& text, std::uint32_t size, Direction direction, const Line& line);
     Port* makePin(const std::string& text, Direction direction, const Line& line);
     Port* requirePort(const std::string& path, const Line& line) const;
 
+    class Counterparts;
     void copyChildren(const Circuit& other);
     void copyNets(const Circuit& other);
 
-    /// Where the names of a path lead to; null if one of them isn't there.
-    const Component* walk(const std::vector<std::string>& units) const;
+    /// Where the names of units in front of a path lead to; null if one of them isn't there. Leaves the last name.
+    const Component* walk(std::string_view& path) const;
     std::vector<Net*> collectNets(const std::vector<Port*>& ports) const;
     static Net* mergeNets(const std::vector<Net*>& nets, const std::string& name);
     void removeEmptyNets();
@@ -273,7 +282,7 @@ private:
     std::weak_ptr<const CircuitSpec> spec_;
     NamedList<Component> children_;  ///< not owned here
     /// Not owned here; none twice. Watched from the first one on: a net that was taken over from a unit dies with that.
-    NamedList<Net> nets_{0};
+    NamedList<Net, 0> nets_;
     std::map<std::string, std::vector<std::string>> metaData_;
     std::vector<std::unique_ptr<Comment>> comments_;
     ComponentFactory componentFactory_;  ///< owns units and declarations

@@ -55,7 +55,7 @@ private:
 
 }  // namespace
 
-void Circuit::setSpec(const CircuitSpec& spec) {
+void Circuit::setSpec(const CircuitSpec& spec, CircuitSpec* consumed) {
     spec_ = spec.watch();
     if (spec.isInline()) {
         clearFilePath();
@@ -64,16 +64,18 @@ void Circuit::setSpec(const CircuitSpec& spec) {
     }
     sourceFile_ = spec.getSourceFile();
     setName(spec.getName());
-    buildFromSpec(spec);
+    buildFromSpec(spec, consumed);
+    if (consumed != nullptr) consumed->forgetStatements();
     if (!spec.isInline()) onLoaded(this);
 }
 
-void Circuit::buildFromSpec(const CircuitSpec& spec) {
+void Circuit::buildFromSpec(const CircuitSpec& spec, CircuitSpec* consumed) {
     for (const auto& subSpec : spec.subSpecs) addDeclaration(*subSpec);
     for (const UnitLine& line : spec.unitLines) addUnit(line);
+    if (consumed != nullptr) consumed->forgetUnits();
     for (const PortLine& line : spec.portLines) addPort(line);
     for (const PinLine& line : spec.pinLines) addPin(line);
-    for (const NetLine& line : spec.netLines) addNet(line);
+    addNets(spec.netLines);
     for (const MetaDataLine& line : spec.metaDataLines) addMetaData(line.key, line.value);
     for (const std::string& path : spec.importPaths) addImportPath(path);
     for (const std::string& comment : spec.freeComments) addComment(comment);
@@ -137,6 +139,21 @@ Port* Circuit::makePin(const std::string& text, Direction direction, const Line&
     made->setOptions(pin.options.map());
     Component::addPort(made);
     return made;
+}
+
+void Circuit::addNets(const std::vector<NetLine>& lines) {
+    // Nets name units in any order.
+    constexpr std::size_t kAhead = 8;
+    const auto unitOf = [](const std::string& path) { return std::string_view(path).substr(0, path.find('.')); };
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (i + 2 * kAhead < lines.size()) {
+            for (const std::string& path : lines[i + 2 * kAhead].ports) children_.expect(unitOf(path));
+        }
+        if (i + kAhead < lines.size()) {
+            for (const std::string& path : lines[i + kAhead].ports) children_.expectObject(unitOf(path));
+        }
+        addNet(lines[i]);
+    }
 }
 
 void Circuit::addNet(const NetLine& line) {

@@ -1,6 +1,8 @@
 // Copies of circuits, declarations, and the units that are made from them.
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
 #include <limits>
 
 #include "Core/Circuit/Circuit.h"
@@ -48,7 +50,7 @@ void Circuit::copyChildren(const Circuit& other) {
         if (ComponentFactory::isBuiltIn(child->getType())) {
             copy = componentFactory_.create(child->getType(), child->getInstanceText());
             copy->setCommentText(child->getCommentText());
-        } else if (const auto* circuit = dynamic_cast<const Circuit*>(child)) {
+        } else if (const Circuit* circuit = child->asCircuit()) {
             copy = componentFactory_.copy(*circuit);
         }
         if (copy == nullptr) {
@@ -60,18 +62,72 @@ void Circuit::copyChildren(const Circuit& other) {
     }
 }
 
-void Circuit::copyNets(const Circuit& other) {
-    const auto paths = other.pathsOfNetPorts();
-    for (Net* net : other.nets_) {
-        std::vector<Port*> ports;
-        for (const Port* port : net->getPorts()) {
-            const std::string& path = paths.at(port);
-            Port* counterpart = findPort(path);
-            if (counterpart == nullptr) {
-                throw Error("Cann't find port path '%s' in circuit '%s'", path.c_str(), getName().c_str());
-            }
-            ports.push_back(counterpart);
+/// For the nets of a circuit that is being copied: which ports of the copy they are to join. A path leads to each, but
+/// nearly all of them hang on the circuit itself or on a unit, and these are found without writing the path out.
+class Circuit::Counterparts {
+public:
+    Counterparts(const Circuit& source, const Circuit& copy) : source_(source), copy_(copy) {
+        std::size_t ports = source.getPorts().size();
+        for (const Component* child : source.children_) ports += child->getPorts().size();
+        places_.resize(std::bit_ceil(2 * ports + 1));
+        add(source, &copy, false);
+        for (const Component* child : source.children_) {
+            add(*child, copy.children_.findFirst(child->getName()), hasDot(*child));
         }
+    }
+
+    Port* of(const Port* port) {
+        const Place& place = placeOf(port);
+        const bool isAtHand = place.owner != nullptr && !hasDot(*port);
+        Port* found = isAtHand ? place.owner->Component::findPort(port->getName()) : nullptr;
+        return found != nullptr ? found : search(port);
+    }
+
+private:
+    struct Place {
+        const Port* port = nullptr;
+        const Component* owner = nullptr;  ///< of its counterpart; null if that has to be searched
+    };
+
+    /// Such a name reads as a path.
+    static bool hasDot(const BaseObject& object) { return object.getName().find('.') != std::string::npos; }
+
+    void add(const Component& owner, const Component* counterpart, bool isSearched) {
+        for (const Port* port : owner.getPorts()) {
+            Place& place = placeOf(port);
+            // The first path of a port stands, as in a search from the top.
+            if (place.port == nullptr) place = {port, isSearched ? nullptr : counterpart};
+        }
+    }
+    /// In an open hash table; a free place if the port isn't there.
+    Place& placeOf(const Port* port) {
+        const std::size_t mask = places_.size() - 1;
+        std::size_t at = (reinterpret_cast<std::uintptr_t>(port) >> 4U) * 0x9E3779B1U >> 8U & mask;
+        while (places_[at].port != nullptr && places_[at].port != port) at = (at + 1) & mask;
+        return places_[at];
+    }
+    Port* search(const Port* port) {
+        if (paths_.empty()) paths_ = source_.pathsOfNetPorts();
+        const std::string& path = paths_.at(port);
+        Port* found = copy_.findPort(path);
+        if (found == nullptr) {
+            throw Error("Cann't find port path '%s' in circuit '%s'", path.c_str(), copy_.getName().c_str());
+        }
+        return found;
+    }
+
+    const Circuit& source_;
+    const Circuit& copy_;
+    std::vector<Place> places_;
+    std::unordered_map<const Port*, std::string> paths_;  ///< empty until it's needed
+};
+
+void Circuit::copyNets(const Circuit& other) {
+    Counterparts counterparts(other, *this);
+    std::vector<Port*> ports;
+    for (Net* net : other.nets_) {
+        ports.clear();
+        for (const Port* port : net->getPorts()) ports.push_back(counterparts.of(port));
         createNet(net->getName(), ports)->setCommentText(net->getCommentText());
     }
 }
@@ -84,7 +140,7 @@ using PortPaths = std::unordered_map<const Port*, std::string>;
 /// path of a port stands, as in a search from the top.
 void collectPortPaths(const Component& component, const std::string& prefix, int depth, PortPaths& paths) {
     for (const Port* port : component.getPorts()) paths.emplace(port, prefix + port->getName());
-    const auto* circuit = dynamic_cast<const Circuit*>(&component);
+    const Circuit* circuit = component.asCircuit();
     if (circuit == nullptr || depth == 0) return;
     for (const Component* child : circuit->getComponents()) {
         collectPortPaths(*child, prefix + child->getName() + ".", depth - 1, paths);
@@ -167,7 +223,7 @@ void Circuit::updateInstances(const Circuit& circuit) {
 
     std::vector<Circuit*> instances;
     for (Component* child : children_) {
-        auto* instance = dynamic_cast<Circuit*>(child);
+        Circuit* instance = child->asCircuit();
         if (instance != nullptr && instance != &circuit && instance->getType() == type) instances.push_back(instance);
     }
     for (Circuit* instance : instances) {

@@ -1,5 +1,7 @@
 #include "Core/Circuit/CircuitFileReader.h"
 
+#include <utility>
+
 #include "Core/Circuit/Circuit.h"
 #include "Core/Circuit/CircuitSpec.h"
 
@@ -9,14 +11,14 @@ CircuitFileReader::CircuitFileReader() = default;
 CircuitFileReader::~CircuitFileReader() = default;
 
 void CircuitFileReader::load(const std::string& fileName, Circuit* circuit) {
-    const CircuitSpec spec(fileName);
-    circuit->setSpec(spec);
+    CircuitSpec spec(fileName);
+    circuit->setSpec(std::move(spec));
 }
 
 std::unique_ptr<Circuit> CircuitFileReader::load(const std::string& fileName) {
-    const CircuitSpec spec(fileName);
+    CircuitSpec spec(fileName);
     auto circuit = std::make_unique<Circuit>(spec.getName(), nullptr);
-    circuit->setSpec(spec);
+    circuit->setSpec(std::move(spec));
     return circuit;
 }
 

@@ -20,7 +20,7 @@ std::string joinPath(const std::vector<std::string>& names) {
 template <class Search>
 std::string searchCircuits(const Circuit& circuit, Search search) {
     for (const Component* child : circuit.getComponents()) {
-        const auto* inner = dynamic_cast<const Circuit*>(child);
+        const Circuit* inner = child->asCircuit();
         if (inner == nullptr) continue;
         const std::string path = search(*inner);
         if (!path.empty()) return child->getName() + "." + path;
@@ -37,7 +37,7 @@ std::string searchPort(const Circuit& circuit, Condition fits) {
     };
     if (const Port* own = findIn(circuit)) return own->getName();
     for (const Component* child : circuit.getComponents()) {
-        if (const auto* inner = dynamic_cast<const Circuit*>(child)) {
+        if (const Circuit* inner = child->asCircuit()) {
             const std::string path = searchPort(*inner, fits);
             if (!path.empty()) return child->getName() + "." + path;
         } else if (const Port* port = findIn(*child)) {
@@ -67,33 +67,41 @@ Circuit::SplitPath Circuit::splitPath(const std::string& text) {
     return path;
 }
 
-const Component* Circuit::walk(const std::vector<std::string>& units) const {
+const Component* Circuit::walk(std::string_view& path) const {
     const Component* reached = this;
-    for (const std::string& unit : units) {
-        const auto* circuit = dynamic_cast<const Circuit*>(reached);
-        reached = circuit == nullptr ? nullptr : circuit->findComponent(unit);
-        if (reached == nullptr) return nullptr;
+    for (std::size_t dot = path.find('.'); dot != std::string_view::npos; dot = path.find('.')) {
+        const Circuit* circuit = reached == nullptr ? nullptr : reached->asCircuit();
+        reached = circuit == nullptr ? nullptr : circuit->children_.findFirst(path.substr(0, dot));
+        path.remove_prefix(dot + 1);
     }
     return reached;
 }
 
-Port* Circuit::findPort(const std::string& path) const {
-    const SplitPath split = splitPath(path);
-    const Component* owner = walk(split.units);
-    return owner == nullptr ? nullptr : owner->Component::findPort(split.leaf);
+Port* Circuit::findPort(std::string_view path) const {
+    const Component* owner = walk(path);
+    return owner == nullptr ? nullptr : owner->Component::findPort(path);
 }
 
 Circuit* Circuit::findCircuit(const std::string& path) const {
-    SplitPath split = splitPath(path);
-    split.units.push_back(split.leaf);
-    return const_cast<Circuit*>(dynamic_cast<const Circuit*>(walk(split.units)));
+    std::string_view leaf = path;
+    const Component* owner = walk(leaf);
+    const Circuit* circuit = owner == nullptr ? nullptr : owner->asCircuit();
+    Component* found = circuit == nullptr ? nullptr : circuit->children_.findFirst(leaf);
+    return found == nullptr ? nullptr : found->asCircuit();
 }
 
 Circuit::NetPath Circuit::resolveNetPath(const std::string& path) const {
     const SplitPath split = splitPath(path);
-    const auto* circuit = dynamic_cast<const Circuit*>(walk(split.units));
-    return {joinPath(split.units), split.leaf, circuit,
-            circuit == nullptr ? nullptr : circuit->nets_.findLast(split.leaf)};
+    std::string_view leaf = path;
+    const Component* owner = walk(leaf);
+    const Circuit* circuit = owner == nullptr ? nullptr : owner->asCircuit();
+    return {joinPath(split.units), split.leaf, circuit, findNet(path)};
+}
+
+Net* Circuit::findNet(std::string_view path) const {
+    const Component* owner = walk(path);
+    const Circuit* circuit = owner == nullptr ? nullptr : owner->asCircuit();
+    return circuit == nullptr ? nullptr : circuit->nets_.findLast(path);
 }
 
 Net* Circuit::requireNet(const std::string& path, const std::string& file, int line) const {
@@ -126,7 +134,7 @@ std::string Circuit::getPortPathById(const std::string& id) const {
 std::string Circuit::getComponentPathById(const std::string& id) const {
     for (const Component* child : children_) {
         if (child->getId() == id) return child->getName();
-        if (const auto* inner = dynamic_cast<const Circuit*>(child)) {
+        if (const Circuit* inner = child->asCircuit()) {
             const std::string path = inner->getComponentPathById(id);
             if (!path.empty()) return child->getName() + "." + path;
         }

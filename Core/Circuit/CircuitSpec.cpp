@@ -1,9 +1,12 @@
 #include "Core/Circuit/CircuitSpec.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <optional>
+#include <span>
 #include <utility>
 
 #include "Core/Support/Error.h"
@@ -20,17 +23,25 @@ std::string inDirectoryOf(const std::string& file, const std::string& name) {
     return slash == std::string::npos ? name : file.substr(0, slash + 1) + name;
 }
 
+std::size_t countPorts(std::span<const NetLine> nets) {
+    std::size_t count = 0;
+    for (const NetLine& net : nets) count += net.ports.size();
+    return count;
+}
+
 }  // namespace
 
 CircuitSpec::CircuitSpec(const std::string& fileName)
     : name_(fileName), fileName_(fileName), current_(this), parentSpec_(nullptr) {
     parseFile(fileName);
+    forgetPorts();
 }
 
 CircuitSpec::CircuitSpec(const std::string& fileName, const std::string& contents)
     : name_(fileName), fileName_(fileName), current_(this), parentSpec_(nullptr) {
     TextFile file(fileName, contents);
     parseLines(file, fileName);
+    forgetPorts();
 }
 
 CircuitSpec::CircuitSpec(CircuitSpec* parent, const std::string& name)
@@ -74,7 +85,7 @@ void CircuitSpec::parseLines(TextFile& file, const std::string& found) {
     current_->checkSharedPorts();
 }
 
-void CircuitSpec::handleLine(std::string line) {
+void CircuitSpec::handleLine(std::string& line) {
     ++current_->lineNumber_;
     // Only a line without any character ends a comment block; one with blanks doesn't.
     const bool isEmpty = line.empty();
@@ -217,15 +228,77 @@ std::string CircuitSpec::resolveFile(const std::string& path) const {
     return path;
 }
 
+namespace {
+
+/// To clear a list leaves it its memory.
+template <class List>
+void release(List& list) {
+    List().swap(list);
+}
+
+}  // namespace
+
+void CircuitSpec::forgetUnits() {
+    release(unitLines);
+}
+
+void CircuitSpec::forgetStatements() {
+    for (const auto& body : subSpecs) body->forgetStatements();
+    forgetUnits();
+    release(netLines);
+    release(portLines);
+    release(pinLines);
+    release(metaDataLines);
+    release(freeComments);
+    forgetPorts();
+}
+
+void CircuitSpec::forgetPorts() {
+    for (const auto& body : subSpecs) body->forgetPorts();
+    release(namedPorts_);
+    namedPortCount_ = checkedNets_ = 0;
+}
+
+CircuitSpec::NamedPort& CircuitSpec::placeOf(const std::string& port, std::uint32_t hash) {
+    const std::size_t mask = namedPorts_.size() - 1;
+    std::size_t at = hash & mask;
+    while (namedPorts_[at].net != 0) {
+        const NamedPort& each = namedPorts_[at];
+        if (each.hash == hash && netLines[each.net - std::size_t{1}].ports[each.port] == port) break;
+        at = (at + 1) & mask;
+    }
+    return namedPorts_[at];
+}
+
+void CircuitSpec::makeRoomForPorts(std::size_t count) {
+    if (count + count / 2 <= namedPorts_.size()) return;
+    std::vector<NamedPort> former(std::bit_ceil(count + count / 2 + 1));
+    former.swap(namedPorts_);
+    const std::size_t mask = namedPorts_.size() - 1;
+    for (const NamedPort& each : former) {
+        if (each.net == 0) continue;
+        std::size_t at = each.hash & mask;
+        while (namedPorts_[at].net != 0) at = (at + 1) & mask;
+        namedPorts_[at] = each;
+    }
+}
+
 void CircuitSpec::checkSharedPorts() {
     // The pair that a comparison of each net with all later ones would find first. Nets that were checked before share
     // nothing, so only those that came since are looked at.
     std::optional<std::pair<std::size_t, std::size_t>> clash;
+    makeRoomForPorts(namedPortCount_ + countPorts(std::span(netLines).subspan(checkedNets_)));
     for (; checkedNets_ < netLines.size(); ++checkedNets_) {
-        for (const std::string& port : netLines[checkedNets_].ports) {
-            const std::size_t first = netOfPort_.emplace(port, checkedNets_).first->second;
-            if (first == checkedNets_) continue;
-            const std::pair pair(first, checkedNets_);
+        const auto& ports = netLines[checkedNets_].ports;
+        for (std::size_t i = 0; i < ports.size(); ++i) {
+            const auto hash = static_cast<std::uint32_t>(std::hash<std::string>{}(ports[i]));
+            NamedPort& place = placeOf(ports[i], hash);
+            if (place.net == 0) {
+                place = {hash, static_cast<std::uint32_t>(checkedNets_ + 1), static_cast<std::uint32_t>(i)};
+                ++namedPortCount_;
+                continue;
+            }
+            const std::pair pair(place.net - std::size_t{1}, checkedNets_);
             if (!clash || pair < *clash) clash = pair;
         }
     }

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 #include "Core/Circuit/FileParser.h"
@@ -46,6 +46,11 @@ public:
     bool hasPendingComment() const;
     void clearPendingComment() { current_->pendingComment_.clear(); }
 
+    /// Lets go of all statements, here and in the nested bodies: they have been built. Names and files stay.
+    void forgetStatements();
+    /// Of the units of this body alone.
+    void forgetUnits();
+
     /// For those who keep a pointer to this object: it's empty as soon as the object is gone.
     std::weak_ptr<const CircuitSpec> watch() const { return lifetime_; }
 
@@ -67,7 +72,8 @@ private:
 
     void parseFile(const std::string& path);
     void parseLines(TextFile& file, const std::string& found);
-    void handleLine(std::string line);
+    /// Changes the line.
+    void handleLine(std::string& line);
     void handleStatement(const std::string& line);
     void handleCircuit(const Fields& fields, const std::string& line);
     void handleClosingBrace(const Fields& fields);
@@ -93,8 +99,22 @@ private:
     std::string fileBeingRead_;                 ///< of the top-level object: where the innermost of them was found
     bool isReadingOwnFile_ = false;  ///< a body in a file of its own, which ends with the file and not with a brace
 
-    std::unordered_map<std::string, std::size_t> netOfPort_;  ///< checkSharedPorts: the first net that names a port
-    std::size_t checkedNets_ = 0;                             ///< and how many nets are in there
+    /// A port that a net names, found by the hash of its text.
+    struct NamedPort {
+        std::uint32_t hash;
+        std::uint32_t net;   ///< the first net that names it, counted from 1; 0 in a free place
+        std::uint32_t port;  ///< of that net
+    };
+    /// The place of a port in `namedPorts_`, a free one if no net names it.
+    NamedPort& placeOf(const std::string& port, std::uint32_t hash);
+    void makeRoomForPorts(std::size_t count);
+    /// The files are read: no further check comes.
+    void forgetPorts();
+
+    // For checkSharedPorts.
+    std::vector<NamedPort> namedPorts_;  ///< an open hash table: of a board's names, a map of texts would be its double
+    std::size_t namedPortCount_ = 0;
+    std::size_t checkedNets_ = 0;  ///< how many nets are in there
 
     /// Points here without owning.
     std::shared_ptr<const CircuitSpec> lifetime_{this, [](const CircuitSpec*) {}};

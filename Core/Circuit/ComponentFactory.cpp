@@ -1,6 +1,7 @@
 #include "Core/Circuit/ComponentFactory.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 #include "Core/Circuit/Circuit.h"
 #include "Core/Circuit/ComponentRegistry.h"
@@ -29,12 +30,34 @@ std::string ComponentFactory::getDocumentation(const std::string& type) {
     return found == nullptr ? "" : found->documentation();
 }
 
+namespace {
+
+/// The parameters of a unit with that parameter text, over the defaults of its type. Units of a type mostly have the
+/// same text, one after the other: what it says is kept until there's another one.
+ParaMap parametersOf(const ComponentType& type, const std::string& text) {
+    struct Latest {
+        std::string text;
+        ParaMap parameters;
+    };
+    static std::unordered_map<const ComponentType*, Latest> latest;
+    const auto found = latest.find(&type);
+    if (found != latest.end() && found->second.text == text) return found->second.parameters;
+    ParaMap parameters = type.defaults();
+    parameters.parse(text);
+    latest[&type] = {text, parameters};
+    return parameters;
+}
+
+}  // namespace
+
 Component* ComponentFactory::create(const std::string& type, const std::string& instanceText) {
     const InstanceText instance(instanceText);
-    ParaMap parameters = getDefaults(type);
-    parameters.parse(instance.parameters);
     const ComponentType* found = findComponentType(type);
-    if (found == nullptr) return nullptr;
+    if (found == nullptr) {
+        ParaMap().parse(instance.parameters);  // raises its Error for what is wrong there in any case
+        return nullptr;
+    }
+    const ParaMap parameters = parametersOf(*found, instance.parameters);
     Component* component = adopt(found->create(instance.name, parameters));
     if (parameters.size() > 0) component->setParameters(parameters);
     return component;
@@ -49,7 +72,7 @@ Circuit* ComponentFactory::copy(const Circuit& circuit) {
 
 void ComponentFactory::dissolveNets() {
     for (const auto& component : components_) {
-        if (auto* circuit = dynamic_cast<Circuit*>(component.get())) circuit->dissolveNets();
+        if (Circuit* circuit = component->asCircuit()) circuit->dissolveNets();
     }
 }
 

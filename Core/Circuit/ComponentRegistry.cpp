@@ -1,7 +1,7 @@
 #include "Core/Circuit/ComponentRegistry.h"
 
-#include <algorithm>
 #include <array>
+#include <unordered_map>
 
 #include "Core/Components/CPUs/MOS6502/MOS6502.h"
 #include "Core/Components/CPUs/W65C02/W65C02.h"
@@ -66,9 +66,13 @@ std::span<const ComponentType> componentTypes() {
 }
 
 const ComponentType* findComponentType(std::string_view type) {
-    const auto found =
-        std::ranges::find_if(kComponentTypes, [&](const ComponentType& each) { return each.typeName() == type; });
-    return found == kComponentTypes.end() ? nullptr : &*found;
+    static const auto byName = [] {
+        std::unordered_map<std::string_view, const ComponentType*> map;
+        for (const ComponentType& each : kComponentTypes) map.emplace(each.typeName(), &each);
+        return map;
+    }();
+    const auto found = byName.find(type);
+    return found == byName.end() ? nullptr : found->second;
 }
 
 }  // namespace tarnsim

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <string_view>
 #include <unordered_set>
 
 #include "Core/Circuit/NamePatterns.h"
@@ -9,6 +10,26 @@
 #include "Core/Support/Text.h"
 
 namespace tarnsim {
+
+namespace {
+
+/// The first text that stands further ahead, too; null if there is none.
+const std::string* firstRepeated(const std::vector<std::string>& texts) {
+    constexpr std::size_t kFew = 16;
+    if (texts.size() <= kFew) {
+        for (auto text = texts.begin(); text != texts.end(); ++text) {
+            if (std::find(texts.begin(), text, *text) != text) return &*text;
+        }
+        return nullptr;
+    }
+    std::unordered_set<std::string_view> known;
+    for (const std::string& text : texts) {
+        if (!known.insert(text).second) return &text;
+    }
+    return nullptr;
+}
+
+}  // namespace
 
 MetaDataLine::MetaDataLine(const std::string& name, const std::string& text, int number, const std::string& file)
     : Line(number, file), key(name), value(text) {}
@@ -24,10 +45,8 @@ NetLine::NetLine(const std::vector<std::string>& fields, int number, const std::
     }
     name = fields[1];
     ports.assign(fields.begin() + 2, fields.end());
-    std::unordered_set<std::string> known;
-    for (const std::string& port : ports) {
-        if (known.insert(port).second) continue;
-        throw Error("Error in %s:%d: Repeated port: '%s'.", fileName.c_str(), lineNumber, port.c_str());
+    if (const std::string* port = firstRepeated(ports)) {
+        throw Error("Error in %s:%d: Repeated port: '%s'.", fileName.c_str(), lineNumber, port->c_str());
     }
 }
 

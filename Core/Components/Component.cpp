@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
+#include <set>
 
 #include "Core/Circuit/Circuit.h"
 #include "Core/Circuit/ComponentFactory.h"
@@ -11,11 +13,22 @@
 
 namespace tarnsim {
 
+namespace {
+
+/// The one text of a type, which lives as long as the process: there are few types, and a board has thousands of units.
+const std::string* sharedType(std::string_view type) {
+    static std::set<std::string, std::less<>> types;
+    const auto known = types.find(type);
+    return known != types.end() ? &*known : &*types.emplace(type).first;
+}
+
+}  // namespace
+
 Component::Component(const std::string& type, const std::string& name, Circuit* parent)
-    : BaseObject(name), parent_(parent), type_(cutChipPrefix(type)) {}
+    : BaseObject(name), parent_(parent), type_(sharedType(cutChipPrefix(type))) {}
 
 Component::Component(const std::string& type, const std::string& name, const ParaMap& parameters)
-    : BaseObject(name), parent_(nullptr), parameters_(parameters), type_(cutChipPrefix(type)) {}
+    : BaseObject(name), parent_(nullptr), parameters_(parameters), type_(sharedType(cutChipPrefix(type))) {}
 
 Component::Component(const Component& other)
     : BaseObject(other),
@@ -122,12 +135,12 @@ void Component::setParent(Circuit* circuit) {
 }
 
 void Component::setType(const std::string& type) {
-    type_ = type;
+    type_ = sharedType(type);
     if (parent_ != nullptr) parent_->declarationTypeChanged();
 }
 
 std::string Component::getTypeDoc() const {
-    return ComponentFactory::getDocumentation(type_);
+    return ComponentFactory::getDocumentation(getType());
 }
 
 void Component::setParameters(const ParaMap& parameters) {
@@ -174,7 +187,7 @@ void Component::checkConnections() const {
     for (const Port* port : ports_) {
         if (port->direction() != Direction::Input || port->getNet(kOutside) != nullptr) continue;
         std::printf("*** WARNING: Input port '%s' of component '%s'/'%s' is not connected.\n", port->getName().c_str(),
-                    type_.c_str(), getName().c_str());
+                    getType().c_str(), getName().c_str());
     }
 }
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <vector>
 
@@ -75,6 +76,10 @@ public:
     virtual void applyParameters() = 0;
     virtual Circuit* getParent() { return parent_; }
     virtual const Circuit* getParent() const { return parent_; }
+    Component* asComponent() override { return this; }
+    /// This component as a circuit; null if it's none. Asked so often that a dynamic_cast would be felt.
+    virtual Circuit* asCircuit() { return nullptr; }
+    const Circuit* asCircuit() const { return const_cast<Component*>(this)->asCircuit(); }
     /// A text for a display; empty unless a part has something to say.
     virtual std::string getDescription() const;
 
@@ -89,7 +94,7 @@ public:
     void removePort(Port* port);
 
     /// The first port of that name or id; null if there is none.
-    Port* findPort(const std::string& name) const { return ports_.findFirst(name); }
+    Port* findPort(std::string_view name) const { return ports_.findFirst(name); }
     Port* findPortById(const std::string& id) const;
     /// As findPort; null if the port isn't a Pin.
     Pin* findPin(const std::string& name) const;
@@ -101,7 +106,7 @@ public:
     /// In order of creation.
     const std::vector<Port*>& getPorts() const { return ports_.items(); }
 
-    const std::string& getType() const { return type_; }
+    const std::string& getType() const { return *type_; }
     /// As it stands: no prefix is cut.
     void setType(const std::string& type);
     ParaMap& getParameters() { return parameters_; }
@@ -168,7 +173,7 @@ private:
     NamedList<Port> ports_;  ///< not owned here but by a factory, mostly the one below
     PortFactory portFactory_;
     ParaMap parameters_;
-    std::string type_;
+    const std::string* type_;  ///< one for all components of the type
     EventNumber plainEvent_ = std::numeric_limits<EventNumber>::max();
 };
 

@@ -1,6 +1,7 @@
 #include "Core/Simulation/Event.h"
 
 #include <functional>
+#include <utility>
 
 #include "Core/Components/Component.h"
 
@@ -22,10 +23,19 @@ EventNumber EventDirectory::numberOf(const Event& event) {
     return next;
 }
 
+void EventDirectory::reserve(std::size_t events) {
+    entries_.reserve(events);
+    targetCreations_.reserve(events);
+}
+
 void EventDirectory::setTouched(EventNumber number, std::span<const void* const> places) {
     if (touched_.size() <= number) touched_.resize(number + std::size_t{1});
     const auto begin = static_cast<std::uint32_t>(places_.size());
-    places_.insert(places_.end(), places.begin(), places.end());
+    const std::int64_t target = lineOf(entries_[number].event.target);
+    for (const void* place : places) {
+        const std::int64_t distance = lineOf(place) - target;
+        if (std::in_range<std::int32_t>(distance)) places_.push_back(static_cast<std::int32_t>(distance));
+    }
     touched_[number] = {begin, static_cast<std::uint32_t>(places_.size())};
 }
 

@@ -47,16 +47,31 @@ public:
         return true;
     }
 
+    /// Makes room for that many events.
+    void reserve(std::size_t events);
+    void reservePlaces(std::size_t places) {
+        touched_.reserve(entries_.size());
+        places_.reserve(places);
+    }
     /// Notes what is touched when the event is called, to be fetched shortly before. Just hints: nothing is read.
     void setTouched(EventNumber number, std::span<const void* const> places);
     /// The event is called soon.
     void prefetch(EventNumber number) const {
         if (number >= touched_.size()) return;
         const Extent& extent = touched_[number];
-        for (std::uint32_t i = extent.begin; i < extent.end; ++i) __builtin_prefetch(places_[i]);
+        const std::int64_t target = lineOf(entries_[number].event.target);
+        for (std::uint32_t i = extent.begin; i < extent.end; ++i) {
+            __builtin_prefetch(reinterpret_cast<const void*>((target + places_[i]) * kLine));
+        }
     }
 
 private:
+    static constexpr std::int64_t kLine = 64;  ///< bytes
+    /// The cache line of an address.
+    static std::int64_t lineOf(const void* place) {
+        return static_cast<std::int64_t>(reinterpret_cast<std::uintptr_t>(place)) / kLine;
+    }
+
     struct Hash {
         std::size_t operator()(const Event& event) const noexcept;
     };
@@ -74,7 +89,7 @@ private:
     std::vector<std::uint64_t> targetCreations_;           ///< kept here, since targets may die before the run
     std::unordered_map<Event, EventNumber, Hash> tagged_;  ///< a plain one is known to its target
     std::vector<Extent> touched_;                          ///< by number, in `places_`
-    std::vector<const void*> places_;
+    std::vector<std::int32_t> places_;                     ///< in cache lines from the target: half of a pointer
     bool isInOrder_ = true;
 };
 

@@ -106,7 +106,13 @@ Net::Net(const std::string& name, std::uint32_t width) : BaseObject(name), Value
 Net::~Net() {
     cutWire();
     for (Port* port : ports_) letGo(*port);
-    for (Port* port : halfRemoved_) letGo(*port);
+    if (!special_) return;
+    for (Port* port : special_->halfRemoved) letGo(*port);
+}
+
+Net::Special& Net::special() {
+    if (!special_) special_ = std::make_unique<Special>();
+    return *special_;
 }
 
 void Net::joinWire(Wire* wire, const std::shared_ptr<ValueRecords>& records) {
@@ -152,30 +158,33 @@ void Net::addPort(Port* port, const PinSpec* spec, int side) {
                     static_cast<int>(spec->size()));
     }
     portsChange();
-    pinSpecs_[port] = spec;
+    special().pinSpecs[port] = spec;
     ports_.push_back(port);
     port->setNet(this, side);
 }
 
 void Net::addPort(Port* port, std::int32_t first, std::int32_t last, int side) {
-    ownedPinSpecs_.push_back(std::make_unique<PinSpec>(first, last));
-    addPort(port, ownedPinSpecs_.back().get(), side);
+    auto& owned = special().ownedPinSpecs;
+    owned.push_back(std::make_unique<PinSpec>(first, last));
+    addPort(port, owned.back().get(), side);
 }
 
 void Net::removePort(Port* port) {
     portsChange();
-    pinSpecs_.erase(port);
     std::erase(ports_, port);
-    std::erase(halfRemoved_, port);
+    if (special_) {
+        special_->pinSpecs.erase(port);
+        std::erase(special_->halfRemoved, port);
+    }
     port->setNet(nullptr, port->getNet(kInside) == this ? kInside : kOutside);
-    if (port->getNet(kOutside) == this) halfRemoved_.push_back(port);
+    if (port->getNet(kOutside) == this) special().halfRemoved.push_back(port);
 }
 
 void Net::disconnectAll() {
     portsChange();
     for (Port* port : ports_) letGo(*port);
     ports_.clear();
-    pinSpecs_.clear();
+    if (special_) special_->pinSpecs.clear();
 }
 
 void Net::takeOver(Net& other) {
@@ -186,10 +195,14 @@ void Net::takeOver(Net& other) {
             if (port->getNet(side) == &other) other.handOver(*port, side, *this);
         }
     }
-    other.pinSpecs_ = std::move(pinSpecs_);
-    pinSpecs_.clear();
-    std::ranges::move(ownedPinSpecs_, std::back_inserter(other.ownedPinSpecs_));  // where they are used, they live
-    ownedPinSpecs_.clear();
+    if (other.special_) other.special_->pinSpecs.clear();
+    if (special_) {
+        Special& receiver = other.special();
+        receiver.pinSpecs.swap(special_->pinSpecs);
+        // Where they are used, they live.
+        std::ranges::move(special_->ownedPinSpecs, std::back_inserter(receiver.ownedPinSpecs));
+        special_->ownedPinSpecs.clear();
+    }
     other.ports_.clear();
     rolesChange();
     other.rolesChange();
@@ -216,15 +229,15 @@ const PinSpec* Net::getPinSpec(const Port* port) const {
 }
 
 const PinSpec* Net::findPinSpec(const Port* port) const {
-    if (pinSpecs_.empty()) return nullptr;
-    const auto found = pinSpecs_.find(port);
-    return found == pinSpecs_.end() ? nullptr : found->second;
+    if (!hasPinSpecs()) return nullptr;
+    const auto found = special_->pinSpecs.find(port);
+    return found == special_->pinSpecs.end() ? nullptr : found->second;
 }
 
 const Net::Roles& Net::roles() const {
     if (!roles_) {
         auto roles = std::make_unique<Roles>();
-        roles->isWhole = pinSpecs_.empty();
+        roles->isWhole = !hasPinSpecs();
         for (Port* port : ports_) {
             const bool isInout = port->direction() == Direction::Inout;
             if (isInout) roles->inouts.push_back(port);

@@ -62,7 +62,9 @@ public:
     const PinSpec* getPinSpec(const Port* port) const;
     /// Null for a port that is attached to the whole net.
     const PinSpec* findPinSpec(const Port* port) const;
-    bool hasPinSpecs() const { return !pinSpecs_.empty(); }
+    bool hasPinSpecs() const { return special_ && !special_->pinSpecs.empty(); }
+    /// Makes room for that many ports.
+    void reserve(std::size_t count) { ports_.reserve(count); }
 
     /// The attached ports by what they do here, each list in order of attachment. Good until a port is attached or
     /// detached, or its sides or its direction change.
@@ -96,7 +98,15 @@ public:
     void update(Time time) { update(time, NetSet()); }
 
     /// For a walk over joined nets: true the first time that a walk of this number asks.
-    bool isNewTo(const CreationNumber& walk) const { return std::exchange(lastWalk_, walk.value()) != walk.value(); }
+    bool isNewTo(const CreationNumber& walk) const {
+        const std::uint64_t former = std::exchange(lastWalk_, walk.value() << kNoteBits);
+        return former >> kNoteBits != walk.value();
+    }
+    /// What the walk of this number has noted of the net last; 0 if that is nothing, or other walks have come by.
+    std::uint8_t noteOf(const CreationNumber& walk) const {
+        return lastWalk_ >> kNoteBits == walk.value() ? static_cast<std::uint8_t>(lastWalk_) : std::uint8_t{0};
+    }
+    void setNote(const CreationNumber& walk, std::uint8_t note) const { lastWalk_ = walk.value() << kNoteBits | note; }
 
     /// One line with the names of the ports, through TLog.
     void dump() const;
@@ -114,7 +124,7 @@ private:
     class Update;
 
     void cutWire();
-    /// `ports_` or `pinSpecs_` are about to change.
+    /// `ports_` or their bit ranges are about to change.
     void portsChange() {
         cutWire();
         rolesChange();
@@ -126,14 +136,21 @@ private:
     /// Moves one attachment to another net. If that refuses it, the port stays, and so do all that still point here.
     void handOver(Port& port, int side, Net& receiver);
 
-    std::vector<Port*> ports_;        ///< not owned
-    std::vector<Port*> halfRemoved_;  ///< removed, but pointing here by a second side that removePort left alone
-    std::unordered_map<const Port*, const PinSpec*> pinSpecs_;  ///< ports attached to a part of the net
-    std::vector<std::unique_ptr<PinSpec>> ownedPinSpecs_;       ///< those that this net made itself
-    Wire* wire_ = nullptr;                                      ///< not owned; null while the net isn't part of one
-    mutable std::unique_ptr<const Roles> roles_;                ///< null until they are asked for
-    mutable std::uint64_t lastWalk_ = 0;
-    const Update* updates_ = nullptr;  ///< what is under way on this net, innermost first
+    /// What hardly any net has.
+    struct Special {
+        std::unordered_map<const Port*, const PinSpec*> pinSpecs;  ///< ports attached to a part of the net
+        std::vector<std::unique_ptr<PinSpec>> ownedPinSpecs;       ///< those that this net made itself
+        std::vector<Port*> halfRemoved;  ///< removed, but pointing here by a second side that removePort left alone
+    };
+    Special& special();
+
+    std::vector<Port*> ports_;                    ///< not owned
+    std::unique_ptr<Special> special_;            ///< null until it's needed
+    Wire* wire_ = nullptr;                        ///< not owned; null while the net isn't part of one
+    mutable std::unique_ptr<const Roles> roles_;  ///< null until they are asked for
+    static constexpr unsigned kNoteBits = 8;
+    mutable std::uint64_t lastWalk_ = 0;  ///< its number, and below it what it noted
+    const Update* updates_ = nullptr;     ///< what is under way on this net, innermost first
 };
 
 /// Makes nets and owns them.

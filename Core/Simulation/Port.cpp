@@ -232,20 +232,16 @@ void Pin::pulse(Time period, int count, Time start) {
 }
 
 Port* PortFactory::createPort(std::uint32_t size, Direction direction, const std::string& name) {
-    return ports_.emplace_back(std::make_unique<Port>(size, direction, name)).get();
+    return adopt(std::make_unique<Port>(size, direction, name));
 }
 
 Pin* PortFactory::createPin(Direction direction, const std::string& name) {
-    auto pin = std::make_unique<Pin>(direction, name);
-    Pin* result = pin.get();
-    ports_.push_back(std::move(pin));
-    return result;
+    return adopt(std::make_unique<Pin>(direction, name));
 }
 
 Port* PortFactory::copyPort(const Port& other) {
-    if (const auto* pin = dynamic_cast<const Pin*>(&other))
-        return ports_.emplace_back(std::make_unique<Pin>(*pin)).get();
-    return ports_.emplace_back(std::make_unique<Port>(other)).get();
+    if (const auto* pin = dynamic_cast<const Pin*>(&other)) return adopt(std::make_unique<Pin>(*pin));
+    return adopt(std::make_unique<Port>(other));
 }
 
 }  // namespace tarnsim

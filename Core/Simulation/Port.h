@@ -100,7 +100,7 @@ public:
     /// `place` is the bus's own note.
     void joinBus(Bus* bus, std::uint32_t place) {
         drivenBus_ = bus;
-        busPlace_ = place;
+        busPlace_ = static_cast<std::uint16_t>(place);
     }
     void leaveBus() { drivenBus_ = nullptr; }
     Bus* getBus() const { return drivenBus_; }
@@ -137,11 +137,12 @@ private:
     Value readInout(Time time) const;
     Value withoutZ(Value value) const;
 
-    Direction direction_;
-    Net* outsideNet_ = nullptr;  ///< not owned
-    Net* insideNet_ = nullptr;   ///< not owned
+    // These two take the room behind the members of ValueHistory: a board has more ports than anything else.
+    Direction direction_ : 8;
     bool ztr_ = true;
-    std::uint32_t busPlace_ = 0;
+    std::uint16_t busPlace_ = 0;
+    Net* outsideNet_ = nullptr;                  ///< not owned
+    Net* insideNet_ = nullptr;                   ///< not owned
     Wire* drivenWire_ = nullptr;                 ///< not owned
     Wire* wire_ = nullptr;                       ///< not owned; null while the port isn't part of one
     const ValueRecords* wireRecords_ = nullptr;  ///< not owned
@@ -180,6 +181,14 @@ public:
     Port* copyPort(const Port& other);
 
 private:
+    template <class Kind>
+    Kind* adopt(std::unique_ptr<Kind> port) {
+        Kind* result = port.get();
+        if (ports_.empty()) ports_.reserve(3);  // as many as the smallest block of memory holds
+        ports_.push_back(std::move(port));
+        return result;
+    }
+
     std::vector<std::unique_ptr<Port>> ports_;
 };
 

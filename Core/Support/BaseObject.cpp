@@ -22,8 +22,8 @@ BaseObject::BaseObject(const BaseObject& other)
 
 BaseObject::~BaseObject() {
     while (!nameWatchers_.empty()) {
-        NameWatcher* watcher = nameWatchers_.front();
-        nameWatchers_.pop_front();
+        NameWatcher* watcher = nameWatchers_.items().front();
+        nameWatchers_.remove(watcher);
         watcher->objectDestroyed(*this);
     }
 }
@@ -31,7 +31,7 @@ BaseObject::~BaseObject() {
 void BaseObject::setName(const std::string& name) {
     if (name == name_) return;
     const std::string formerName = std::exchange(name_, name);
-    for (NameWatcher* watcher : nameWatchers_) watcher->nameChanged(*this, formerName);
+    for (NameWatcher* watcher : nameWatchers_.items()) watcher->nameChanged(*this, formerName);
 }
 
 std::string BaseObject::getId() const {
@@ -43,7 +43,8 @@ void BaseObject::setId(const std::string& id) {
 }
 
 void BaseObject::watchName(NameWatcher* watcher) {
-    if (std::ranges::find(nameWatchers_, watcher) == nameWatchers_.end()) nameWatchers_.push_front(watcher);
+    const auto known = nameWatchers_.items();
+    if (std::ranges::find(known, watcher) == known.end()) nameWatchers_.insert(0, watcher);
 }
 
 void BaseObject::stopWatchingName(NameWatcher* watcher) {

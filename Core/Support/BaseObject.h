@@ -1,12 +1,12 @@
 #pragma once
 
 #include <cstdint>
-#include <forward_list>
 #include <memory>
 #include <string>
 
 #include "Core/Support/CreationNumber.h"
 #include "Core/Support/Dict.h"
+#include "Core/Support/PointerList.h"
 
 namespace tarnsim {
 
@@ -53,8 +53,8 @@ private:
     CreationNumber creationNumber_;
     std::uint32_t firstDraw_;   ///< the id until somebody sets another: kept as numbers, since a board has a million
     std::uint32_t secondDraw_;  ///< objects and hardly anybody asks for an id
-    std::unique_ptr<std::string> givenId_;          ///< an id set from outside
-    std::forward_list<NameWatcher*> nameWatchers_;  ///< not owned
+    std::unique_ptr<std::string> givenId_;   ///< an id set from outside
+    PointerList<NameWatcher> nameWatchers_;  ///< not owned
 };
 
 }  // namespace tarnsim

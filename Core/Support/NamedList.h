@@ -6,7 +6,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "Core/Support/BaseObject.h"
@@ -21,13 +20,12 @@ namespace tarnsim {
 ///
 /// Short lists (the ports of a gate) are walked, as that's faster and needs no memory. A longer one builds an index by
 /// name, and from then on an object that dies leaves the list by itself. With a `longestWalk` of 0 that holds for all.
-template <class T>
+template <class T, std::size_t longestWalk = 16>
 class NamedList {
 public:
     using const_iterator = typename std::vector<T*>::const_iterator;
 
-    /// A list of more than `longestWalk` objects gets an index.
-    explicit NamedList(std::size_t longestWalk = 16) : longestWalk_(longestWalk) {}
+    NamedList() = default;
     NamedList(const NamedList&) = delete;
     NamedList& operator=(const NamedList&) = delete;
 
@@ -39,10 +37,11 @@ public:
     T* operator[](std::size_t i) const { return items_[i]; }
 
     void append(T* item) {
+        if (items_.empty()) items_.reserve(kFewest);
         items_.push_back(item);
         if (index_) {
             index_->add(item);
-        } else if (items_.size() > longestWalk_) {
+        } else if (items_.size() > longestWalk) {
             index_ = std::make_unique<Index>(*this);
             for (T* each : items_) index_->add(each);
         }
@@ -86,6 +85,17 @@ public:
         return found == items_.rend() ? nullptr : *found;
     }
 
+    // Hints that the name will be looked up before long: what that is going to touch is fetched, the index first, and
+    // the object at a second hint. In a list of thousands of objects, looked up in any order, waiting for memory is
+    // most of it.
+
+    void expect(std::string_view name) const {
+        if (index_) index_->fetchSlot(name);
+    }
+    void expectObject(std::string_view name) const {
+        if (index_) index_->fetchObject(name);
+    }
+
     std::size_t count(std::string_view name) const {
         if (index_) return index_->count(name);
         return static_cast<std::size_t>(
@@ -98,94 +108,142 @@ public:
 
 private:
     /// From the hash of a name to the objects that have it. The names themselves aren't copied: an entry is checked
-    /// against its object.
+    /// against its object. An open hash table, so that finding a unit of a large board touches few places in memory.
     class Index final : public NameWatcher {
     public:
-        explicit Index(NamedList& list) : list_(list) {}
+        explicit Index(NamedList& list) : list_(list), slots_(32) {}
         Index(const Index&) = delete;
         Index& operator=(const Index&) = delete;
 
         ~Index() {
-            for (const auto& [hash, entry] : entries_) entry.item->stopWatchingName(this);
+            for (const Slot& slot : slots_) {
+                if (slot.object != nullptr) slot.object->stopWatchingName(this);
+            }
         }
 
         void add(T* item) {
-            entries_.emplace(hashOf(item->getName()), Entry{item, item, nextPosition_++});
+            put({item, hashOf(item->getName()), nextPosition_++});
             item->watchName(this);
         }
 
         void remove(const T* item) {
-            const auto [first, last] = entries_.equal_range(hashOf(item->getName()));
-            for (auto it = first; it != last;) {
-                if (it->second.item != item) {
-                    ++it;
-                    continue;
-                }
-                it->second.item->stopWatchingName(this);
-                it = entries_.erase(it);
-            }
+            if (takeAll(*item, item->getName()).empty()) return;
+            const_cast<T*>(item)->stopWatchingName(this);
         }
 
         template <class Better>
         T* find(std::string_view name, Better better) const {
-            const Entry* best = nullptr;
-            const auto [first, last] = entries_.equal_range(hashOf(name));
-            for (auto it = first; it != last; ++it) {
-                const Entry& entry = it->second;
-                if (entry.item->getName() == name && (best == nullptr || better(entry.position, best->position)))
-                    best = &entry;
-            }
-            return best == nullptr ? nullptr : best->item;
+            const Slot* best = nullptr;
+            forEach(name, [&](const Slot& slot) {
+                if (best == nullptr || better(slot.position, best->position)) best = &slot;
+            });
+            return best == nullptr ? nullptr : static_cast<T*>(best->object);
+        }
+
+        void fetchSlot(std::string_view name) const { __builtin_prefetch(&slots_[home(hashOf(name))]); }
+        void fetchObject(std::string_view name) const {
+            const std::uint32_t hash = hashOf(name);
+            std::size_t at = home(hash);
+            while (slots_[at].object != nullptr && slots_[at].hash != hash) at = next(at);
+            const auto* object = reinterpret_cast<const char*>(slots_[at].object);
+            for (std::size_t line = 0; line < sizeof(T); line += 64) __builtin_prefetch(object + line);
         }
 
         std::size_t count(std::string_view name) const {
-            const auto [first, last] = entries_.equal_range(hashOf(name));
-            return static_cast<std::size_t>(
-                std::count_if(first, last, [&](const auto& each) { return each.second.item->getName() == name; }));
+            std::size_t count = 0;
+            forEach(name, [&](const Slot& /*slot*/) { ++count; });
+            return count;
         }
 
         bool contains(const T* item) const {
-            const auto [first, last] = entries_.equal_range(hashOf(item->getName()));
-            return std::any_of(first, last, [&](const auto& each) { return each.second.item == item; });
+            bool isThere = false;
+            forEach(item->getName(), [&](const Slot& slot) { isThere = isThere || slot.object == item; });
+            return isThere;
         }
 
         void nameChanged(BaseObject& object, const std::string& formerName) override {
-            for (Entry& entry : takeEntries(object, formerName)) entries_.emplace(hashOf(object.getName()), entry);
+            for (Slot& slot : takeAll(object, formerName)) {
+                slot.hash = hashOf(object.getName());
+                put(slot);
+            }
         }
 
         void objectDestroyed(BaseObject& object) override {
-            for (const Entry& entry : takeEntries(object, object.getName())) std::erase(list_.items_, entry.item);
+            if (takeAll(object, object.getName()).empty()) return;
+            std::erase_if(list_.items_, [&](const BaseObject* each) { return each == &object; });
         }
 
     private:
-        struct Entry {
-            T* item;
-            const BaseObject* object;  ///< the same, for when only this part of it is left
-            std::uint64_t position;    ///< order in the list; positions only grow, as objects are only appended
+        struct Slot {
+            BaseObject* object = nullptr;  ///< null in a free slot; in the end only this part of an item is left
+            std::uint32_t hash = 0;
+            std::uint32_t position = 0;  ///< order in the list; positions only grow, as objects are only appended
         };
 
-        static std::size_t hashOf(std::string_view name) { return std::hash<std::string_view>{}(name); }
+        static std::uint32_t hashOf(std::string_view name) {
+            return static_cast<std::uint32_t>(std::hash<std::string_view>{}(name));
+        }
+        std::size_t next(std::size_t at) const { return (at + 1) & (slots_.size() - 1); }
+        std::size_t home(std::uint32_t hash) const { return hash & (slots_.size() - 1); }
 
-        std::vector<Entry> takeEntries(const BaseObject& object, const std::string& name) {
-            std::vector<Entry> taken;
-            const auto [first, last] = entries_.equal_range(hashOf(name));
-            for (auto it = first; it != last;) {
-                if (it->second.object == &object) {
-                    taken.push_back(it->second);
-                    it = entries_.erase(it);
+        /// Calls `visit` for each entry of that name.
+        template <class Visitor>
+        void forEach(std::string_view name, Visitor visit) const {
+            const std::uint32_t hash = hashOf(name);
+            for (std::size_t at = home(hash); slots_[at].object != nullptr; at = next(at)) {
+                if (slots_[at].hash == hash && slots_[at].object->getName() == name) visit(slots_[at]);
+            }
+        }
+
+        void put(const Slot& slot) {
+            if (++size_ > slots_.size() / 4 * 3) {
+                std::vector<Slot> former(2 * slots_.size());
+                former.swap(slots_);
+                for (const Slot& each : former) {
+                    if (each.object != nullptr) slots_[freeSlot(each.hash)] = each;
+                }
+            }
+            slots_[freeSlot(slot.hash)] = slot;
+        }
+        std::size_t freeSlot(std::uint32_t hash) const {
+            std::size_t at = home(hash);
+            while (slots_[at].object != nullptr) at = next(at);
+            return at;
+        }
+
+        std::vector<Slot> takeAll(const BaseObject& object, std::string_view name) {
+            std::vector<Slot> taken;
+            for (std::size_t at = home(hashOf(name)); slots_[at].object != nullptr;) {
+                if (slots_[at].object == &object) {
+                    taken.push_back(slots_[at]);
+                    vacate(at);
                 } else {
-                    ++it;
+                    at = next(at);
                 }
             }
             return taken;
         }
+        /// What stands behind the slot moves up as far as it is found from its home.
+        void vacate(std::size_t hole) {
+            for (std::size_t at = next(hole); slots_[at].object != nullptr; at = next(at)) {
+                const std::size_t mask = slots_.size() - 1;
+                if (((at - home(slots_[at].hash)) & mask) < ((at - hole) & mask)) continue;
+                slots_[hole] = slots_[at];
+                hole = at;
+            }
+            slots_[hole] = Slot();
+            --size_;
+        }
 
         NamedList& list_;
-        std::unordered_multimap<std::size_t, Entry> entries_;
-        std::uint64_t nextPosition_ = 0;
+        std::vector<Slot> slots_;  ///< a power of two, a quarter of them free
+        std::size_t size_ = 0;
+        std::uint32_t nextPosition_ = 0;
     };
 
-    std::size_t longestWalk_;
+    /// The smallest block of memory holds three pointers, which is what a gate needs.
+    static constexpr std::size_t kFewest = 3;
+
     std::vector<T*> items_;         ///< not owned
     std::unique_ptr<Index> index_;  ///< null while the list is short
 };

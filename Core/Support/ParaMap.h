@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -12,23 +13,25 @@ namespace tarnsim {
 ///
 /// Values stay text until a getter is asked for a type. A getter leaves its target alone when the key is absent, so
 /// whatever the target held before is the default. There is no quoting: a value holds neither `,` nor `=`.
+///
+/// Copies have their pairs in common until one of them is changed: most units of a board have the same parameters.
 class ParaMap {
 public:
     ParaMap() = default;
     explicit ParaMap(const std::string& text) { parse(text); }
     virtual ~ParaMap() = default;
-    ParaMap(const ParaMap&) = default;
-    ParaMap& operator=(const ParaMap&) = default;
+    ParaMap(const ParaMap& other);
+    ParaMap& operator=(const ParaMap& other);
 
     /// Adds the pairs of a parenthesised list; a key that is there already takes the new value. The first and last
     /// character are taken for the parentheses whatever they are. Raises an Error for an empty field ("(a=1,,b=2)");
     /// the pairs in front of it stay.
     void parse(const std::string& text);
 
-    bool has(const std::string& key) const { return params_.contains(key); }
+    bool has(const std::string& key) const { return map().contains(key); }
     /// Raises std::out_of_range for a missing key.
-    const std::string& at(const std::string& key) const { return params_.at(key); }
-    std::string& operator[](const std::string& key) { return params_[key]; }
+    const std::string& at(const std::string& key) const { return map().at(key); }
+    std::string& operator[](const std::string& key);
 
     /// As the C library's atof reads it, text that is no number as 0.
     void get(const std::string& key, float* out) const;
@@ -37,10 +40,10 @@ public:
     /// yes, 1, true and no, 0, false in any case. Any other text leaves the target alone.
     void get(const std::string& key, bool* out) const;
 
-    std::size_t size() const { return params_.size(); }
-    void clear() { params_.clear(); }
+    std::size_t size() const { return map().size(); }
+    void clear() { contents_.reset(); }
     std::vector<std::string> keys() const;
-    const std::map<std::string, std::string>& map() const { return params_; }
+    const std::map<std::string, std::string>& map() const;
 
     /// `(a=1,b=2)`, or "" for an empty map. Nothing is escaped.
     std::string toString() const;
@@ -48,7 +51,16 @@ public:
     std::string toStringExcept(const ParaMap& defaults) const;
 
 private:
-    std::map<std::string, std::string> params_;
+    struct Contents {
+        std::map<std::string, std::string> pairs;
+        bool isLent = false;  ///< somebody may hold a value that they can write to, so copies get pairs of their own
+    };
+
+    /// The pairs, to be changed.
+    Contents& own();
+    std::shared_ptr<Contents> shareOrCopy() const;
+
+    std::shared_ptr<Contents> contents_;  ///< null while there are none
 };
 
 }  // namespace tarnsim

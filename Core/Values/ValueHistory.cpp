@@ -18,7 +18,7 @@ void ValueHistory::set(const Value& value, Time time) {
     }
     if (!subscribers_.empty() && differsFromRecords(value, time)) {
         const ValueChange change{recordedValue(time), value, time};
-        for (ValueChangeSubscriber* subscriber : subscribers_) subscriber->valueChanged(this, change);
+        for (ValueChangeSubscriber* subscriber : subscribers()) subscriber->valueChanged(this, change);
     }
     ownRecords().store(time, value.letters());
 }
@@ -72,14 +72,16 @@ std::int32_t ValueHistory::maxNumber() const {
 
 void ValueHistory::subscribe(ValueChangeSubscriber* subscriber) {
     leaveSharedRecords();
-    const auto place = std::ranges::lower_bound(subscribers_, subscriber->subscriptionOrder(), {},
-                                                &ValueChangeSubscriber::subscriptionOrder);
-    if (place == subscribers_.end() || *place != subscriber) subscribers_.insert(place, subscriber);
+    const auto known = subscribers();
+    const auto place =
+        std::ranges::lower_bound(known, subscriber->subscriptionOrder(), {}, &ValueChangeSubscriber::subscriptionOrder);
+    if (place != known.end() && *place == subscriber) return;
+    subscribers_.insert(static_cast<std::size_t>(place - known.begin()), subscriber);
 }
 
 void ValueHistory::unsubscribe(ValueChangeSubscriber* subscriber) {
     leaveSharedRecords();
-    std::erase(subscribers_, subscriber);
+    subscribers_.remove(subscriber);
 }
 
 bool ValueHistory::isOneBitEdge(Time time, char before, char after) const {

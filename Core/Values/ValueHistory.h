@@ -2,15 +2,17 @@
 
 #include <cstdint>
 #include <memory>
-#include <vector>
+#include <span>
 
 #include "Core/Support/CreationNumber.h"
+#include "Core/Support/PointerList.h"
 #include "Core/Values/Time.h"
 #include "Core/Values/Value.h"
 #include "Core/Values/ValueRecords.h"
 
 namespace tarnsim {
 
+class Component;
 class ValueHistory;
 
 /// What a subscriber is told: at `time` the signal leaves `oldValue` for `newValue`.
@@ -28,6 +30,10 @@ public:
     /// Called before the history takes the new value: whoever reads it during the call still sees the old one. The call
     /// may set other histories, but mustn't change this history's subscribers.
     virtual void valueChanged(ValueHistory* history, const ValueChange& change) = 0;
+
+    /// This subscriber as a component; null if it's none. A dynamic_cast for each would be felt when a large board is
+    /// prepared.
+    virtual Component* asComponent() { return nullptr; }
 
     /// Subscribers of one history are told in the order in which they were created.
     std::uint64_t subscriptionOrder() const { return creationNumber_.value(); }
@@ -73,7 +79,8 @@ public:
 
     void subscribe(ValueChangeSubscriber* subscriber);
     void unsubscribe(ValueChangeSubscriber* subscriber);
-    const std::vector<ValueChangeSubscriber*>& subscribers() const { return subscribers_; }
+    /// In the order in which they are told. Good until it changes.
+    std::span<ValueChangeSubscriber* const> subscribers() const { return subscribers_.items(); }
 
     // The queries read this history's own records, whatever a derived class answers to get.
 
@@ -116,9 +123,9 @@ private:
     Value valueBefore(Time time) const;
     bool isOneBitEdge(Time time, char before, char after) const;
 
-    std::uint32_t width_;
-    std::shared_ptr<ValueRecords> records_;            ///< null until there is one
-    std::vector<ValueChangeSubscriber*> subscribers_;  ///< not owned, ascending by subscriptionOrder
+    std::shared_ptr<ValueRecords> records_;           ///< null until there is one
+    PointerList<ValueChangeSubscriber> subscribers_;  ///< not owned, ascending by subscriptionOrder
+    std::uint32_t width_;  ///< the last member: what a derived class begins with takes the room behind it
 };
 
 }  // namespace tarnsim
