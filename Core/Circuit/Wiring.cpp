@@ -306,7 +306,7 @@ void notePlaces(const std::vector<Component*>& components, EventSimulator& simul
         places.assign(own.begin(), own.end());
         const auto& ports = component->getPorts();
         for (const Port* port : std::span(ports).first(std::min(ports.size(), kMostPorts))) {
-            places.push_back(port->hotPlace());
+            if (const void* place = port->hotPlace()) places.push_back(place);
             if (const Wire* wire = port->getWire()) {
                 places.push_back(wire);
                 if (wire->driver() == port) places.push_back(wire->listenersPlace());

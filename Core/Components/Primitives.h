@@ -7,7 +7,7 @@
 
 #include "Core/Components/Chip.h"
 #include "Core/Components/EdgeDetector.h"
-#include "Core/Values/ValueHistory.h"
+#include "Core/Values/ValueRecords.h"
 
 namespace tarnsim {
 
@@ -22,9 +22,9 @@ public:
     void evaluate(Time time) override;
 
 private:
-    Pin& in = inputPin("in");
-    Pin& g = inputPin("_g");
-    Pin& out = outputPin("out");
+    PinRef in = inputPin("in");
+    PinRef g = inputPin("_g");
+    PinRef out = outputPin("out");
 };
 
 /// The same for a bus of `size` bits, 1 to 255. The width is fixed when the part is made: a size that is applied later
@@ -48,7 +48,7 @@ private:
     std::uint32_t size_;  ///< bits
     Port& in = input("in", size_);
     Port& out = output("out", size_);
-    Pin& g = inputPin("_g");
+    PinRef g = inputPin("_g");
 };
 
 /// A flip-flop that takes `D` over when `clk` rises, and floats while `_OE` is high. It is clocked all the same then.
@@ -61,13 +61,13 @@ public:
     void evaluate(Time time) override;
 
 private:
-    Pin& Q = outputPin("Q");
-    Pin& notQ = outputPin("_Q");
-    Pin& D = inputPin("D");
-    Pin& clk = inputPin("clk");
-    Pin& OE = inputPin("_OE");
+    PinRef Q = outputPin("Q");
+    PinRef notQ = outputPin("_Q");
+    PinRef D = inputPin("D");
+    PinRef clk = inputPin("clk");
+    PinRef OE = inputPin("_OE");
 
-    ValueHistory state_{1};  ///< the stored bit over time
+    ValueRecords state_;  ///< the stored bit over time
     EdgeDetector edges_{-1};
 };
 
@@ -92,7 +92,7 @@ private:
     Value selectBits(Time time) const;
     void write(std::string_view letters, Time time);
 
-    Pin& x = inputPin("x");
+    PinRef x = inputPin("x");
     // With buses
     Port* S = nullptr;
     Port* Y = nullptr;

@@ -30,12 +30,12 @@ private:
     struct Half {
         SN74x74& chip;
         std::string number;
-        Pin& SD = chip.inputPin("_SD" + number);
-        Pin& CD = chip.inputPin("_CD" + number);
-        Pin& CP = chip.inputPin("CP" + number);
-        Pin& D = chip.inputPin("D" + number);
-        Pin& Q = chip.outputPin("Q" + number);
-        Pin& notQ = chip.outputPin("_Q" + number);
+        PinRef SD = chip.inputPin("_SD" + number);
+        PinRef CD = chip.inputPin("_CD" + number);
+        PinRef CP = chip.inputPin("CP" + number);
+        PinRef D = chip.inputPin("D" + number);
+        PinRef Q = chip.outputPin("Q" + number);
+        PinRef notQ = chip.outputPin("_Q" + number);
 
         void write(char q, char inverse, Time time);
     };
@@ -60,11 +60,11 @@ private:
     struct Half {
         DM74LS78A& chip;
         std::string number;
-        Pin& PRE = chip.inputPin("_" + number + "PRE");
-        Pin& J = chip.inputPin(number + "J");
-        Pin& K = chip.inputPin(number + "K");
-        Pin& Q = chip.outputPin(number + "Q");
-        Pin& notQ = chip.outputPin("_" + number + "Q");
+        PinRef PRE = chip.inputPin("_" + number + "PRE");
+        PinRef J = chip.inputPin(number + "J");
+        PinRef K = chip.inputPin(number + "K");
+        PinRef Q = chip.outputPin(number + "Q");
+        PinRef notQ = chip.outputPin("_" + number + "Q");
 
         char q = 'U';   ///< the stored bit
         char nq = 'U';  ///< its inverse, stored beside it
@@ -75,8 +75,8 @@ private:
         void evaluateUncleared(bool isClocked, Time time);
     };
 
-    Pin& CLR = inputPin("_CLR");
-    Pin& CLK = inputPin("_CLK");
+    PinRef CLR = inputPin("_CLR");
+    PinRef CLK = inputPin("_CLK");
     std::array<Half, 2> halves = {Half{*this, "1"}, Half{*this, "2"}};
 
     EdgeDetector edges_{-1};

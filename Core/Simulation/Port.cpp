@@ -71,12 +71,18 @@ void Port::joinWire(Wire* wire, const std::shared_ptr<ValueRecords>& records) {
     if (wire->driver() == this && readNet() == nullptr) drivenWire_ = wire;
     shareRecords(records);
     if (readNet() == nullptr || readNet()->getWire() == wire) wireRecords_ = records.get();
+    updateHolder();
 }
 
 void Port::leaveWire() {
     wire_ = nullptr;
     drivenWire_ = nullptr;
     wireRecords_ = nullptr;
+    updateHolder();
+}
+
+void Port::updateHolder() {
+    if (holder_ != nullptr) holder_->update(wireRecords_, drivenWire_);
 }
 
 void Port::lettersAt(Time time, char* letters) const {
@@ -185,6 +191,11 @@ void Port::dump() const {
 }
 
 Pin::Pin(Direction direction, const std::string& name) : Port(1, direction, name) {}
+
+void Pin::holdBy(PinRef* holder) {
+    holder_ = holder;
+    updateHolder();
+}
 
 void Pin::pulse(Time period, int count, Time start) {
     Time time = start;

@@ -15,6 +15,7 @@ namespace tarnsim {
 
 class Bus;
 class Net;
+class PinRef;
 
 /// A port's direction as its component sees it.
 enum class Direction : std::int32_t { Input = 0, Output = 1, Inout = 2 };
@@ -91,8 +92,8 @@ public:
     /// Makes a record and does nothing else.
     void recordLetters(std::string_view letters, Time time) { ownRecords().store(time, letters); }
     Wire* getWire() const { return wire_; }
-    /// Where reading and setting begin.
-    const void* hotPlace() const { return &drivenWire_; }
+    /// Where reading and setting begin; null if that's with the part that holds it.
+    const void* hotPlace() const { return holder_ == nullptr ? &drivenWire_ : nullptr; }
     /// The net that `get` reads; null if it reads the port's own records. Not for Inouts.
     const Net* readNet() const { return direction_ == Direction::Input ? outsideNet_ : insideNet_; }
     /// The net that resolves when this port is set; null if there is none.
@@ -106,6 +107,9 @@ protected:
     const ValueRecords* wireRecords() const { return wireRecords_; }
     /// What a reader of the port sees where the records have a `Z`.
     char readZ() const;
+    void updateHolder();
+
+    PinRef* holder_ = nullptr;  ///< not owned; a Pin's only
 
 private:
     void cutWire();
@@ -133,11 +137,7 @@ public:
     Pin(const Pin& other) = default;
 
     /// The letter that the pin reads at `time`.
-    char level(Time time) const {
-        if (wireRecords() == nullptr) return get(time);
-        const char letter = wireRecords()->letterInForceAt(time, kUndefinedBit);
-        return letter == 'Z' ? readZ() : letter;
-    }
+    char level(Time time) const { return wireRecords() == nullptr ? get(time) : levelOf(*wireRecords(), time); }
     void setLevel(char letter, Time time) {
         Wire* wire = drivenWire();
         if (wire != nullptr && wire->passes(letter)) return wire->setLetter(letter, time);
@@ -146,6 +146,45 @@ public:
 
     /// Sets `count` periods of a square wave from `start` on, each low first and high from its middle. Times in ns.
     void pulse(Time period, int count, Time start);
+
+    // For PinRef
+
+    char levelOf(const ValueRecords& records, Time time) const {
+        const char letter = records.letterInForceAt(time, kUndefinedBit);
+        return letter == 'Z' ? readZ() : letter;
+    }
+    void holdBy(PinRef* holder);
+};
+
+/// A pin as its part holds it, as a member. Levels go straight to the wire that the pin is on: while a large board
+/// runs, the ports of its parts needn't be in the caches (a third of what an evaluation touches).
+class PinRef {
+public:
+    /// The pin isn't owned and lives longer. It is held by one part.
+    PinRef(Pin& pin) : pin_(pin) { pin.holdBy(this); }  // NOLINT(google-explicit-constructor): stands for the pin
+    ~PinRef() { pin_.holdBy(nullptr); }
+    PinRef(const PinRef&) = delete;
+    PinRef& operator=(const PinRef&) = delete;
+
+    operator Pin&() const { return pin_; }  // NOLINT(google-explicit-constructor): stands for the pin
+
+    /// As those of Pin.
+    char level(Time time) const { return read_ == nullptr ? pin_.level(time) : pin_.levelOf(*read_, time); }
+    void setLevel(char letter, Time time) {
+        if (driven_ != nullptr && driven_->passes(letter)) return driven_->setLetter(letter, time);
+        pin_.setLevel(letter, time);
+    }
+
+    /// For the pin: what it reads and drives has become another.
+    void update(const ValueRecords* read, Wire* driven) {
+        read_ = read;
+        driven_ = driven;
+    }
+
+private:
+    Pin& pin_;
+    const ValueRecords* read_ = nullptr;  ///< not owned, as its wire
+    Wire* driven_ = nullptr;              ///< not owned
 };
 
 /// Makes the ports of one component and owns them.

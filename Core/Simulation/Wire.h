@@ -8,6 +8,7 @@
 #include "Core/Simulation/Event.h"
 #include "Core/Simulation/EventSimulator.h"
 #include "Core/Values/Time.h"
+#include "Core/Values/Value.h"
 #include "Core/Values/ValueRecords.h"
 
 namespace tarnsim {
