@@ -19,9 +19,9 @@ public:
     }
 
 private:
-    PinRef a = this->inputPin("a");
-    PinRef b = this->inputPin("b");
-    PinRef out = this->outputPin("out");
+    InputPin a = this->inputPin("a");
+    InputPin b = this->inputPin("b");
+    OutputPin out = this->outputPin("out");
 };
 
 class And final : public TwoInputGate<And, Logic::kAnd> {
@@ -69,8 +69,8 @@ public:
     void evaluate(Time time) override;
 
 private:
-    PinRef in = inputPin("in");
-    PinRef out = outputPin("out");
+    InputPin in = inputPin("in");
+    OutputPin out = outputPin("out");
 };
 
 }  // namespace tarnsim

@@ -22,9 +22,9 @@ public:
     void evaluate(Time time) override;
 
 private:
-    PinRef in = inputPin("in");
-    PinRef g = inputPin("_g");
-    PinRef out = outputPin("out");
+    InputPin in = inputPin("in");
+    InputPin g = inputPin("_g");
+    OutputPin out = outputPin("out");
 };
 
 /// The same for a bus of `size` bits, 1 to 255. The width is fixed when the part is made: a size that is applied later
@@ -48,7 +48,7 @@ private:
     std::uint32_t size_;  ///< bits
     Port& in = input("in", size_);
     Port& out = output("out", size_);
-    PinRef g = inputPin("_g");
+    InputPin g = inputPin("_g");
 };
 
 /// A flip-flop that takes `D` over when `clk` rises, and floats while `_OE` is high. It is clocked all the same then.
@@ -61,14 +61,14 @@ public:
     void evaluate(Time time) override;
 
 private:
-    PinRef Q = outputPin("Q");
-    PinRef notQ = outputPin("_Q");
-    PinRef D = inputPin("D");
-    PinRef clk = inputPin("clk");
-    PinRef OE = inputPin("_OE");
+    OutputPin Q = outputPin("Q");
+    OutputPin notQ = outputPin("_Q");
+    InputPin D = inputPin("D");
+    InputPin clk = inputPin("clk");
+    InputPin OE = inputPin("_OE");
 
-    ValueRecords state_;  ///< the stored bit over time
     EdgeDetector edges_{-1};
+    ValueRecords state_;  ///< the stored bit over time
 };
 
 /// Pulls one of four outputs low, the one that the two select bits name, while `x` is low. With the parameter `bus_io`
@@ -92,7 +92,7 @@ private:
     Value selectBits(Time time) const;
     void write(std::string_view letters, Time time);
 
-    PinRef x = inputPin("x");
+    InputPin x = inputPin("x");
     // With buses
     Port* S = nullptr;
     Port* Y = nullptr;

@@ -82,7 +82,9 @@ void Port::leaveWire() {
 }
 
 void Port::updateHolder() {
-    if (holder_ != nullptr) holder_->update(wireRecords_, drivenWire_);
+    if (holder_ == nullptr) return;
+    const bool isWhatItShows = direction_ == Direction::Output ? drivenWire_ != nullptr : wireRecords_ != nullptr;
+    holder_->setWire(isWhatItShows ? wire_ : nullptr);
 }
 
 void Port::lettersAt(Time time, char* letters) const {
@@ -192,7 +194,7 @@ void Port::dump() const {
 
 Pin::Pin(Direction direction, const std::string& name) : Port(1, direction, name) {}
 
-void Pin::holdBy(PinRef* holder) {
+void Pin::holdBy(HeldPin* holder) {
     holder_ = holder;
     updateHolder();
 }

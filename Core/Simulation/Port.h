@@ -15,7 +15,7 @@ namespace tarnsim {
 
 class Bus;
 class Net;
-class PinRef;
+class HeldPin;
 
 /// A port's direction as its component sees it.
 enum class Direction : std::int32_t { Input = 0, Output = 1, Inout = 2 };
@@ -109,7 +109,7 @@ protected:
     char readZ() const;
     void updateHolder();
 
-    PinRef* holder_ = nullptr;  ///< not owned; a Pin's only
+    HeldPin* holder_ = nullptr;  ///< not owned; a Pin's only
 
 private:
     void cutWire();
@@ -147,44 +147,57 @@ public:
     /// Sets `count` periods of a square wave from `start` on, each low first and high from its middle. Times in ns.
     void pulse(Time period, int count, Time start);
 
-    // For PinRef
+    // For HeldPin
 
     char levelOf(const ValueRecords& records, Time time) const {
         const char letter = records.letterInForceAt(time, kUndefinedBit);
         return letter == 'Z' ? readZ() : letter;
     }
-    void holdBy(PinRef* holder);
+    void holdBy(HeldPin* holder);
 };
 
 /// A pin as its part holds it, as a member. Levels go straight to the wire that the pin is on: while a large board
-/// runs, the ports of its parts needn't be in the caches (a third of what an evaluation touches).
-class PinRef {
+/// runs, the ports of its parts needn't be in the caches (a third of what an evaluation touched).
+class HeldPin {
 public:
+    ~HeldPin() { pin_.holdBy(nullptr); }
+    HeldPin(const HeldPin&) = delete;
+    HeldPin& operator=(const HeldPin&) = delete;
+
+    Pin& pin() const { return pin_; }
+
+    /// For the pin: its wire has become another. Null if there is none, or if the pin isn't simply what it shows.
+    void setWire(Wire* wire) { wire_ = wire; }
+
+    /// As that of the pin.
+    char level(Time time) const { return wire_ == nullptr ? pin_.level(time) : pin_.levelOf(wire_->records(), time); }
+
+protected:
     /// The pin isn't owned and lives longer. It is held by one part.
-    PinRef(Pin& pin) : pin_(pin) { pin.holdBy(this); }  // NOLINT(google-explicit-constructor): stands for the pin
-    ~PinRef() { pin_.holdBy(nullptr); }
-    PinRef(const PinRef&) = delete;
-    PinRef& operator=(const PinRef&) = delete;
-
-    operator Pin&() const { return pin_; }  // NOLINT(google-explicit-constructor): stands for the pin
-
-    /// As those of Pin.
-    char level(Time time) const { return read_ == nullptr ? pin_.level(time) : pin_.levelOf(*read_, time); }
-    void setLevel(char letter, Time time) {
-        if (driven_ != nullptr && driven_->passes(letter)) return driven_->setLetter(letter, time);
-        pin_.setLevel(letter, time);
-    }
-
-    /// For the pin: what it reads and drives has become another.
-    void update(const ValueRecords* read, Wire* driven) {
-        read_ = read;
-        driven_ = driven;
-    }
+    explicit HeldPin(Pin& pin) : pin_(pin) { pin.holdBy(this); }
+    Wire* wire() const { return wire_; }
 
 private:
     Pin& pin_;
-    const ValueRecords* read_ = nullptr;  ///< not owned, as its wire
-    Wire* driven_ = nullptr;              ///< not owned
+    Wire* wire_ = nullptr;  ///< not owned
+};
+
+/// An Input of a part.
+class InputPin : public HeldPin {
+public:
+    InputPin(Pin& pin) : HeldPin(pin) {}  // NOLINT(google-explicit-constructor): stands for the pin
+};
+
+/// An Output of a part.
+class OutputPin : public HeldPin {
+public:
+    OutputPin(Pin& pin) : HeldPin(pin) {}  // NOLINT(google-explicit-constructor): stands for the pin
+
+    /// As that of the pin.
+    void setLevel(char letter, Time time) {
+        if (wire() != nullptr && wire()->passes(letter)) return wire()->setLetter(letter, time);
+        pin().setLevel(letter, time);
+    }
 };
 
 /// Makes the ports of one component and owns them.
