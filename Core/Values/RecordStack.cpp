@@ -50,16 +50,21 @@ RecordStack::RecordStack(const RecordStack& other) : RecordStack(other.width_) {
     for (std::size_t i = 0; i < other.size(); ++i) push(other.timeOf(i), other.lettersOf(i));
 }
 
+RecordStack::Depth& RecordStack::depth() {
+    if (!depth_) {
+        depth_ = std::make_unique<Depth>();
+        depth_->upmost.size = 0;
+    }
+    return *depth_;
+}
+
 const char* RecordStack::topLetters() const {
-    return width_ == 1 ? textOf(letterOf(units_[used_ - 1U])) : lettersInChunk(size() - 1);
+    if (width_ == 1) return textOf(letterOf(units_[used_ - 1U]));
+    return recent_ > 0 ? texts_.top.data() : lettersInChunk(below_ - 1U);
 }
 
 void RecordStack::pop() {
-    if (width_ != 1) {
-        --below_;
-        if (below_ > 0) latest_ = timeInChunk(below_ - 1U);
-        return;
-    }
+    if (width_ != 1) return popText();
     Reader reader(units_.data(), used_, latest_);
     reader.goDown();
     latest_ = reader.time();
@@ -67,9 +72,22 @@ void RecordStack::pop() {
     if (--recent_ == 0 && below_ > 0) restore();
 }
 
+void RecordStack::replaceTop(const char* letters) {
+    if (width_ != 1) {
+        std::copy_n(letters, width_, recent_ > 0 ? texts_.top.data() : lettersInChunk(below_ - 1U));
+        return;
+    }
+    const Time time = latest_;
+    pop();
+    pushLetter(time, *letters);
+}
+
 std::size_t RecordStack::countNotLater(Time time) const {
     if (size() == 0 || latest_ <= time) return size();
-    if (width_ != 1) return countInChunksNotLater(time);
+    if (width_ != 1) {
+        if (recent_ > 1 && texts_.secondTime <= time) return size() - 1;
+        return below_ == 0 ? 0 : countInChunksNotLater(time);
+    }
     Reader reader(units_.data(), used_, latest_);
     for (std::size_t count = size(); count > below_; --count) {
         if (reader.time() <= time) return count;
@@ -108,11 +126,15 @@ char RecordStack::letterFurtherBackAt(Time time, char none) const {
 }
 
 Time RecordStack::timeOf(std::size_t i) const {
-    return width_ == 1 ? readerAt(i).time() : timeInChunk(i);
+    if (width_ == 1) return readerAt(i).time();
+    if (i < below_) return timeInChunk(i);
+    return i + 1 == size() ? latest_ : texts_.secondTime;
 }
 
 const char* RecordStack::lettersOf(std::size_t i) const {
-    return width_ == 1 ? textOf(readerAt(i).letter()) : lettersInChunk(i);
+    if (width_ == 1) return textOf(readerAt(i).letter());
+    if (i < below_) return lettersInChunk(i);
+    return i + 1 == size() ? texts_.top.data() : texts_.second.data();
 }
 
 void RecordStack::pushLong(std::uint32_t gap, char letter) {
@@ -130,14 +152,16 @@ void RecordStack::flush() {
     for (; reader.end() > kBlockUnits || kept < kKept; ++kept) reader.goDown();
     const auto end = static_cast<std::ptrdiff_t>(reader.end());
     Depth& below = depth();
-    const std::size_t place = below.blockCount % Slab::kBlocks;
-    if (place == 0) below.slabs.push_back(std::make_unique_for_overwrite<Slab>());
-    Slab& slab = *below.slabs.back();
+    Slab& slab = below.upmost;
+    if (slab.size == Slab::kBlocks) {
+        below.slabs.push_back(std::make_unique<const Slab>(slab));
+        slab.size = 0;
+    }
     below_ += recent_ - kept;
-    slab.latest[place] = reader.time();
-    slab.end[place] = below_;
-    std::copy_n(units_.data(), end, slab.units[place].end() - end);
-    ++below.blockCount;
+    slab.latest[slab.size] = reader.time();
+    slab.end[slab.size] = below_;
+    std::copy_n(units_.data(), end, slab.units[slab.size].end() - end);
+    ++slab.size;
     std::copy(units_.data() + end, units_.data() + used_, units_.data());
     recent_ = kept;
     used_ = static_cast<std::uint8_t>(used_ - end);
@@ -145,8 +169,14 @@ void RecordStack::flush() {
 
 /// Takes the upmost block back, when no record is left in the object.
 void RecordStack::restore() {
-    const Block block = depth_->block(--depth_->blockCount);
-    below_ = depth_->blockCount == 0 ? 0 : depth_->block(depth_->blockCount - 1).end;
+    Slab& slab = depth_->upmost;
+    if (slab.size == 0) {
+        slab = *depth_->slabs.back();
+        depth_->slabs.pop_back();
+    }
+    const Block block = depth_->block(depth_->blockCount() - 1);
+    --slab.size;
+    below_ = depth_->blockCount() == 0 ? 0 : depth_->block(depth_->blockCount() - 1).end;
     recent_ = static_cast<std::uint8_t>(block.end - below_);
     latest_ = block.latest;
     Reader reader(block.units, kBlockUnits, block.latest);
@@ -154,20 +184,20 @@ void RecordStack::restore() {
     std::copy(block.units + reader.end(), block.units + kBlockUnits, units_.begin());
     used_ = static_cast<std::uint8_t>(kBlockUnits - reader.end());
     depth_->found = {};
-    if (depth_->blockCount % Slab::kBlocks == 0) depth_->slabs.pop_back();
 }
 
 RecordStack::Block RecordStack::Depth::block(std::size_t i) const {
-    const Slab& slab = *slabs[i / Slab::kBlocks];
+    const std::size_t number = i / Slab::kBlocks;
+    const Slab& slab = number == slabs.size() ? upmost : *slabs[number];
     const std::size_t place = i % Slab::kBlocks;
     return {slab.units[place].data(), slab.latest[place], slab.end[place]};
 }
 
-/// The first block for which `isReached` holds, as it then does for all above; `blockCount` if there is none.
+/// The first block for which `isReached` holds, as it then does for all above; `blockCount()` if there is none.
 template <class Predicate>
 std::size_t RecordStack::firstBlock(Predicate isReached) const {
     std::size_t begin = 0;
-    std::size_t end = depth_->blockCount;
+    std::size_t end = depth_->blockCount();
     while (begin < end) {
         const std::size_t middle = begin + (end - begin) / 2;
         if (isReached(depth_->block(middle))) {
@@ -181,7 +211,7 @@ std::size_t RecordStack::firstBlock(Predicate isReached) const {
 
 /// The lowest block that reaches to `time`, or else the upmost. REQUIRES: there is one
 std::size_t RecordStack::findBlock(Time time) const {
-    const std::size_t last = depth_->blockCount - 1;
+    const std::size_t last = depth_->blockCount() - 1;
     const auto fits = [&](std::size_t i) {
         return i <= last && (i == last || depth_->block(i).latest >= time) &&
                (i == 0 || depth_->block(i - 1).latest < time);
@@ -233,35 +263,68 @@ RecordStack::Reader RecordStack::readerAt(std::size_t i) const {
     return reader;
 }
 
-void RecordStack::pushToChunk(Time time, const char* letters) {
-    const std::size_t length = chunkLength();
-    std::vector<std::unique_ptr<char[]>>& chunks = depth().chunks;
-    if (below_ == chunks.size() * length) {
-        chunks.push_back(std::make_unique_for_overwrite<char[]>(length * (sizeof(Time) + width_)));
+void RecordStack::pushText(Time time, const char* letters) {
+    if (width_ > Texts::kLetters) {
+        pushToChunk(time, letters);
+    } else {
+        if (recent_ == 2) pushToChunk(texts_.secondTime, texts_.second.data());
+        texts_.second = texts_.top;
+        texts_.secondTime = latest_;
+        std::memcpy(texts_.top.data(), letters, width_);
+        if (recent_ < 2) ++recent_;
     }
-    char* chunk = chunks[below_ / length].get();
-    const std::size_t place = below_ % length;
-    reinterpret_cast<Time*>(chunk)[place] = time;
-    std::memcpy(chunk + sizeof(Time) * length + place * width_, letters, width_);
-    ++below_;
     latest_ = time;
 }
 
+void RecordStack::popText() {
+    if (recent_ == 2) {
+        texts_.top = texts_.second;
+        latest_ = texts_.secondTime;
+        recent_ = 1;
+        return;
+    }
+    // The top is taken from the chunks, or was there.
+    if (recent_ == 0) --below_;
+    recent_ = 0;
+    if (below_ == 0) return;
+    latest_ = timeInChunk(below_ - 1U);
+    if (width_ > Texts::kLetters) return;
+    --below_;
+    std::memcpy(texts_.top.data(), lettersInChunk(below_), width_);
+    recent_ = 1;
+}
+
+void RecordStack::pushToChunk(Time time, const char* letters) {
+    const std::size_t length = std::size_t{1} << chunkShift();
+    std::vector<std::unique_ptr<char[]>>& chunks = depth().chunks;
+    if (below_ == chunks.size() << chunkShift()) {
+        chunks.push_back(std::make_unique_for_overwrite<char[]>(length * (sizeof(Time) + width_)));
+    }
+    char* chunk = chunks[below_ >> chunkShift()].get();
+    const std::size_t place = below_ & (length - 1);
+    reinterpret_cast<Time*>(chunk)[place] = time;
+    std::memcpy(chunk + sizeof(Time) * length + place * width_, letters, width_);
+    ++below_;
+}
+
 Time RecordStack::timeInChunk(std::size_t i) const {
-    return reinterpret_cast<const Time*>(depth_->chunks[i / chunkLength()].get())[i % chunkLength()];
+    const std::size_t mask = (std::size_t{1} << chunkShift()) - 1;
+    return reinterpret_cast<const Time*>(depth_->chunks[i >> chunkShift()].get())[i & mask];
 }
 
-const char* RecordStack::lettersInChunk(std::size_t i) const {
-    const std::size_t length = chunkLength();
-    return depth_->chunks[i / length].get() + sizeof(Time) * length + (i % length) * width_;
+char* RecordStack::lettersInChunk(std::size_t i) const {
+    const std::size_t length = std::size_t{1} << chunkShift();
+    return depth_->chunks[i >> chunkShift()].get() + sizeof(Time) * length + (i & (length - 1)) * width_;
 }
 
-/// REQUIRES: the top is later
+/// REQUIRES: all records in the object are later, and there are chunks
 std::size_t RecordStack::countInChunksNotLater(Time time) const {
     const auto fits = [&](std::size_t count) {
-        return count < below_ && timeInChunk(count) > time && (count == 0 || timeInChunk(count - 1) <= time);
+        return count <= below_ && (count == below_ || timeInChunk(count) > time) &&
+               (count == 0 || timeInChunk(count - 1) <= time);
     };
     // A part looks back by its delay, seldom behind the last change but one; for the others see findBlock.
+    if (fits(below_)) return below_;
     if (fits(below_ - 1U)) return below_ - 1U;
     std::size_t& found = depth_->lastFound;
     if (fits(found)) return found;

@@ -20,7 +20,7 @@ namespace tarnsim {
 /// (Shift registers of 4,096 flip-flops took half as long again while records went out four at a time.)
 ///
 /// Wider records lie in chunks of some hundred bytes, times and letters side by side, so that nothing moves when there
-/// are more.
+/// are more. Of those of up to 16 letters the latest two stand in the object.
 class RecordStack {
 public:
     RecordStack() = default;
@@ -40,7 +40,7 @@ public:
         if (width_ == 1) {
             pushLetter(time, *letters);
         } else {
-            pushToChunk(time, letters);
+            pushText(time, letters);
         }
     }
     /// The same for records of one letter.
@@ -59,7 +59,7 @@ public:
 
     /// The number of records that aren't later than `time`.
     std::size_t countNotLater(Time time) const;
-    /// The letters of the latest record that isn't later than `time`; null if all are later.
+    /// The letters of the latest record that isn't later than `time`; null if all are later. Good until a push or pop.
     const char* lettersInForceAt(Time time) const;
     /// For records of one letter; `none` if all are later.
     char letterInForceAt(Time time, char none) const {
@@ -72,6 +72,8 @@ public:
     Time topTime() const { return latest_; }
     const char* topLetters() const;
     void pop();
+    /// Gives the top other letters.
+    void replaceTop(const char* letters);
 
     // REQUIRES: i < size(); the lowest is 0
 
@@ -107,12 +109,13 @@ private:
         std::uint32_t end;  ///< the number of records in this block and in all below
     };
     /// Some blocks. Allocated together: to free millions of single ones took an eighth of a run.
-    struct Slab {
-        static constexpr std::size_t kBlocks = 8;
+    struct alignas(64) Slab {
+        static constexpr std::size_t kBlocks = 6;
 
+        std::uint32_t size;  ///< blocks in it
         std::array<Time, kBlocks> latest;
         std::array<std::uint32_t, kBlocks> end;
-        std::array<std::array<Unit, kBlockUnits>, kBlocks> units;
+        alignas(64) std::array<std::array<Unit, kBlockUnits>, kBlocks> units;
     };
     /// A record that was found, in force from one time until another.
     struct Found {
@@ -123,15 +126,25 @@ private:
     };
     /// What lies below the object.
     struct Depth {
-        std::size_t blockCount = 0;
-        std::vector<std::unique_ptr<Slab>> slabs;     ///< of blocks, for records of one letter
-        std::vector<std::unique_ptr<char[]>> chunks;  ///< for wider ones: times, then letters
-        std::size_t lastFound = 0;                    ///< a block or a record, where the last search ended
+        Slab upmost;                                     ///< stands here, so that a full object has one place to go to
+        std::vector<std::unique_ptr<const Slab>> slabs;  ///< the full ones below
+        std::vector<std::unique_ptr<char[]>> chunks;     ///< of wider records: times, then letters
+        std::size_t lastFound = 0;                       ///< a block or a record, where the last search ended
         /// What was found in blocks last. Many parts on one clock, which is laid down for the whole run, all ask for
         /// the same two times; without this it took a fifth of the time of shift registers to find them.
         std::array<Found, 2> found{};
 
+        std::size_t blockCount() const { return slabs.size() * Slab::kBlocks + upmost.size; }
         Block block(std::size_t i) const;
+    };
+    /// The latest records of up to 16 letters.
+    struct Texts {
+        static constexpr std::size_t kLetters = 16;
+        using Letters = std::array<char, kLetters>;
+
+        Letters top;
+        Letters second;
+        Time secondTime;
     };
     /// Goes down the records in some units, from the top.
     class Reader;
@@ -142,10 +155,7 @@ private:
     static bool isLong(Unit top) { return (top & kLong) == kLong; }
     static char letterOf(Unit top) { return isLong(top) ? static_cast<char>(top >> kCodeBits) : kLetters[top & kLong]; }
 
-    Depth& depth() {
-        if (!depth_) depth_ = std::make_unique<Depth>();
-        return *depth_;
-    }
+    Depth& depth();
 
     // Of one letter
     void pushLong(std::uint32_t gap, char letter);
@@ -159,19 +169,24 @@ private:
     Reader readerAt(std::size_t i) const;
 
     // Of more
-    /// Records a chunk: fewer of many letters; a power of two.
-    std::size_t chunkLength() const { return width_ <= 8 ? 32 : width_ <= 32 ? 16 : 8; }
+    void pushText(Time time, const char* letters);
+    void popText();
+    /// Records a chunk, as a power of two: fewer of many letters.
+    std::size_t chunkShift() const { return width_ <= 8 ? 5 : width_ <= 32 ? 4 : 3; }
     void pushToChunk(Time time, const char* letters);
     Time timeInChunk(std::size_t i) const;
-    const char* lettersInChunk(std::size_t i) const;
+    char* lettersInChunk(std::size_t i) const;
     std::size_t countInChunksNotLater(Time time) const;
 
     Time latest_ = 0;          ///< the time of the top
     std::uint32_t below_ = 0;  ///< how many records lie in `depth_`
     std::uint8_t width_ = 0;   ///< letters a record
-    std::uint8_t recent_ = 0;  ///< how many stand here; of one letter, at least one if there are any
+    std::uint8_t recent_ = 0;  ///< how many stand here; of up to 16 letters, at least one if there are any
     std::uint8_t used_ = 0;    ///< in `units_`
-    std::array<Unit, kUnits> units_{};
+    union {
+        std::array<Unit, kUnits> units_{};  ///< of one letter
+        Texts texts_;                       ///< of more
+    };
     std::unique_ptr<Depth> depth_;  ///< null until it is needed
 };
 

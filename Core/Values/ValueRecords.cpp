@@ -29,8 +29,11 @@ void ValueRecords::storeAnywhere(Time time, std::string_view letters) {
         behind_.reset();
     }
     moveGapTo(time);
-    if (before_.size() > 0 && before_.topTime() == time) before_.pop();
-    before_.push(time, letters.data());
+    if (before_.size() > 0 && before_.topTime() == time) {
+        before_.replaceTop(letters.data());
+    } else {
+        before_.push(time, letters.data());
+    }
 }
 
 std::optional<std::size_t> ValueRecords::inForceAt(Time time) const {
