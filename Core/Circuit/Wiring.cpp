@@ -414,7 +414,7 @@ void notePlaces(const std::vector<Component*>& components, EventSimulator& simul
         places.assign(own.begin(), own.end());
         const auto& ports = component->getPorts();
         for (const Port* port : std::span(ports).first(std::min(ports.size(), kMostPorts))) {
-            places.push_back(port->hotPlace());
+            if (const void* place = port->hotPlace()) places.push_back(place);
             const Wire* wire = port->getWire();
             if (wire == nullptr) continue;
             places.push_back(wire);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <type_traits>
 
 #include "Core/Components/Component.h"
 #include "Core/Components/PartInfo.h"
@@ -35,6 +36,10 @@ public:
         : SingleDelayComponent(std::string(Part::info.typeName), name, delay) {}
 
     Response responseTo(const Port& /*port*/) const override { return responseOf<Part>(); }
+    Evaluator evaluator() const override {
+        if constexpr (!std::is_final_v<Part>) return SingleDelayComponent::evaluator();
+        return [](Component& part, Time time) { static_cast<Part&>(part).evaluate(time); };
+    }
 
 protected:
     struct ApplyLater {};

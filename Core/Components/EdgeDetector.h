@@ -25,7 +25,8 @@ public:
     explicit EdgeDetector(Time lastEvaluation) : lastEvaluation_(lastEvaluation) {}
 
     /// For an evaluation at `time` of a part with `delay` ns.
-    ClockStep step(const Pin& clock, Time time, std::uint32_t delay) const {
+    template <class ClockPin>
+    ClockStep step(const ClockPin& clock, Time time, std::uint32_t delay) const {
         return {clock.level(earlier(lastEvaluation_, delay)), clock.level(earlier(time, delay))};
     }
 

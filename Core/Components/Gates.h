@@ -19,9 +19,9 @@ public:
     }
 
 private:
-    Pin& a = this->inputPin("a");
-    Pin& b = this->inputPin("b");
-    Pin& out = this->outputPin("out");
+    InputPin a = this->inputPin("a");
+    InputPin b = this->inputPin("b");
+    OutputPin out = this->outputPin("out");
 };
 
 class And final : public TwoInputGate<And, Logic::kAnd> {
@@ -69,8 +69,8 @@ public:
     void evaluate(Time time) override;
 
 private:
-    Pin& in = inputPin("in");
-    Pin& out = outputPin("out");
+    InputPin in = inputPin("in");
+    OutputPin out = outputPin("out");
 };
 
 }  // namespace tarnsim

@@ -66,7 +66,7 @@ void D_flip_flop::reset() {
 
 void D_flip_flop::evaluate(Time time) {
     const Time then = inputTime(time);
-    if (edges_.step(clk, time, getDelay()).isRising()) state_.set(Value(D.level(then), 1), time);
+    if (edges_.step(clk, time, getDelay()).isRising()) state_.storeLetter(time, D.level(then));
     edges_.evaluatedAt(time);
 
     const auto write = [&](char q, char inverse) {
@@ -79,7 +79,7 @@ void D_flip_flop::evaluate(Time time) {
         case 'L': break;
         default: return;
     }
-    switch (static_cast<char>(state_.get(time))) {
+    switch (state_.letterInForceAt(time, kUndefinedBit)) {
         case 'H': return write('H', 'L');
         case 'L': return write('L', 'H');
         default: return write('U', 'U');

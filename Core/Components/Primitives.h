@@ -7,7 +7,7 @@
 
 #include "Core/Components/Chip.h"
 #include "Core/Components/EdgeDetector.h"
-#include "Core/Values/ValueHistory.h"
+#include "Core/Values/ValueRecords.h"
 
 namespace tarnsim {
 
@@ -22,9 +22,9 @@ public:
     void evaluate(Time time) override;
 
 private:
-    Pin& in = inputPin("in");
-    Pin& g = inputPin("_g");
-    Pin& out = outputPin("out");
+    InputPin in = inputPin("in");
+    InputPin g = inputPin("_g");
+    OutputPin out = outputPin("out");
 };
 
 /// The same for a bus of `size` bits, 1 to 255. The width is fixed when the part is made: a size that is applied later
@@ -48,7 +48,7 @@ private:
     std::uint32_t size_;  ///< bits
     Port& in = input("in", size_);
     Port& out = output("out", size_);
-    Pin& g = inputPin("_g");
+    InputPin g = inputPin("_g");
 };
 
 /// A flip-flop that takes `D` over when `clk` rises, and floats while `_OE` is high. It is clocked all the same then.
@@ -61,14 +61,14 @@ public:
     void evaluate(Time time) override;
 
 private:
-    Pin& Q = outputPin("Q");
-    Pin& notQ = outputPin("_Q");
-    Pin& D = inputPin("D");
-    Pin& clk = inputPin("clk");
-    Pin& OE = inputPin("_OE");
+    OutputPin Q = outputPin("Q");
+    OutputPin notQ = outputPin("_Q");
+    InputPin D = inputPin("D");
+    InputPin clk = inputPin("clk");
+    InputPin OE = inputPin("_OE");
 
-    ValueHistory state_{1};  ///< the stored bit over time
     EdgeDetector edges_{-1};
+    ValueRecords state_;  ///< the stored bit over time
 };
 
 /// Pulls one of four outputs low, the one that the two select bits name, while `x` is low. With the parameter `bus_io`
@@ -93,7 +93,7 @@ private:
     std::array<char, 2> selectBits(Time time) const;
     void write(std::string_view letters, Time time);
 
-    Pin& x = inputPin("x");
+    InputPin x = inputPin("x");
     // With buses
     Port* S = nullptr;
     Port* Y = nullptr;

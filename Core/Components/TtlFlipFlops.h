@@ -30,12 +30,12 @@ private:
     struct Half {
         SN74x74& chip;
         std::string number;
-        Pin& SD = chip.inputPin("_SD" + number);
-        Pin& CD = chip.inputPin("_CD" + number);
-        Pin& CP = chip.inputPin("CP" + number);
-        Pin& D = chip.inputPin("D" + number);
-        Pin& Q = chip.outputPin("Q" + number);
-        Pin& notQ = chip.outputPin("_Q" + number);
+        InputPin SD = chip.inputPin("_SD" + number);
+        InputPin CD = chip.inputPin("_CD" + number);
+        InputPin CP = chip.inputPin("CP" + number);
+        InputPin D = chip.inputPin("D" + number);
+        OutputPin Q = chip.outputPin("Q" + number);
+        OutputPin notQ = chip.outputPin("_Q" + number);
 
         void write(char q, char inverse, Time time);
     };
@@ -60,11 +60,11 @@ private:
     struct Half {
         DM74LS78A& chip;
         std::string number;
-        Pin& PRE = chip.inputPin("_" + number + "PRE");
-        Pin& J = chip.inputPin(number + "J");
-        Pin& K = chip.inputPin(number + "K");
-        Pin& Q = chip.outputPin(number + "Q");
-        Pin& notQ = chip.outputPin("_" + number + "Q");
+        InputPin PRE = chip.inputPin("_" + number + "PRE");
+        InputPin J = chip.inputPin(number + "J");
+        InputPin K = chip.inputPin(number + "K");
+        OutputPin Q = chip.outputPin(number + "Q");
+        OutputPin notQ = chip.outputPin("_" + number + "Q");
 
         char q = 'U';   ///< the stored bit
         char nq = 'U';  ///< its inverse, stored beside it
@@ -75,8 +75,8 @@ private:
         void evaluateUncleared(bool isClocked, Time time);
     };
 
-    Pin& CLR = inputPin("_CLR");
-    Pin& CLK = inputPin("_CLK");
+    InputPin CLR = inputPin("_CLR");
+    InputPin CLK = inputPin("_CLK");
     std::array<Half, 2> halves = {Half{*this, "1"}, Half{*this, "2"}};
 
     EdgeDetector edges_{-1};

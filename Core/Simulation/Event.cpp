@@ -17,7 +17,7 @@ EventNumber EventDirectory::numberOf(const Event& event) {
     // A target remembers its number from other runs, too.
     if (known < next && entries_[known].event == event) return known;
     known = next;
-    entries_.push_back({event});
+    entries_.push_back({event, event.tag == 0 ? event.target->evaluator() : nullptr});
     targetCreations_.push_back(event.target->getCreationNumber());
     if (next > 0 && !comesBefore(next - 1, next)) isInOrder_ = false;
     return next;
@@ -26,6 +26,15 @@ EventNumber EventDirectory::numberOf(const Event& event) {
 void EventDirectory::reserve(std::size_t events) {
     entries_.reserve(events);
     targetCreations_.reserve(events);
+}
+
+void EventDirectory::call(EventNumber number, Time time) const {
+    const auto& [event, evaluate, lastTime] = entries_[number];
+    if (evaluate != nullptr) {
+        evaluate(*event.target, time);
+    } else {
+        event.target->evaluateTagged(time, event.tag);
+    }
 }
 
 void EventDirectory::setTouched(EventNumber number, std::span<const void* const> places) {

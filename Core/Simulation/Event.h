@@ -20,6 +20,9 @@ struct Event {
     bool operator==(const Event&) const = default;
 };
 
+/// Evaluates a component whose class it knows.
+using Evaluator = void (*)(Component& component, Time time);
+
 /// An event within a run, by its number in the run's EventDirectory.
 using EventNumber = std::uint32_t;
 
@@ -30,6 +33,8 @@ public:
     /// The number of the event, a new one if need be.
     EventNumber numberOf(const Event& event);
     const Event& operator[](EventNumber number) const { return entries_[number].event; }
+    /// Calls the target.
+    void call(EventNumber number, Time time) const;
     std::size_t size() const { return entries_.size(); }
 
     /// Whether `a` comes before `b`: by the order in which the targets were created, then by tag. That order carries no
@@ -77,6 +82,7 @@ private:
     };
     struct Entry {
         Event event;
+        Evaluator evaluate;  ///< null for an event with a tag
         std::int64_t lastTime = std::numeric_limits<std::int64_t>::min();
     };
 

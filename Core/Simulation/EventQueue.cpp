@@ -13,7 +13,7 @@ void EventSet::begin() {
 
 std::span<const EventNumber> EventSet::take(std::vector<EventNumber>& entered) {
     // Most times have one pass; only those that have more need to know what the former ones took.
-    isTaken_.resize(directory_.size());
+    if (isTaken_.size() < directory_.size()) isTaken_.resize(directory_.size());
     if (!pass_.empty()) {
         for (const EventNumber number : pass_) isTaken_[number] = true;
         taken_.insert(taken_.end(), pass_.begin(), pass_.end());

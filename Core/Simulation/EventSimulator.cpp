@@ -45,12 +45,7 @@ void EventSimulator::workThrough(Time time) {
         constexpr std::size_t kAhead = 4;
         for (std::size_t i = 0; i < pass.size(); ++i) {
             if (i + kAhead < pass.size()) events_.prefetch(pass[i + kAhead]);
-            const Event event = events_[pass[i]];
-            if (event.tag == 0) {
-                event.target->evaluate(time);
-            } else {
-                event.target->evaluateTagged(time, event.tag);
-            }
+            events_.call(pass[i], time);
         }
     }
 }

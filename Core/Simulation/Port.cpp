@@ -39,7 +39,7 @@ void Port::setLetters(std::string_view letters, Time time) {
 
 bool Port::setTogether(std::string_view letters, Time time) {
     if (letters.size() != width()) return false;
-    if (drivenWire_ != nullptr && drivenWire_->set(letters, time)) return true;
+    if (drivesWire_ && wire_->set(letters, time)) return true;
     if (drivenBus_ == nullptr) return false;
     if (!drivenBus_->set(*this, letters, time)) farNet()->update(time);
     return true;
@@ -57,8 +57,8 @@ Net* Port::recordAlone(const Value& value, Time time) {
 }
 
 Value Port::get(Time time) const {
-    if (wireRecords_ != nullptr) {
-        const char* letters = wireRecords_->lettersInForceAt(time);
+    if (readsWire_) {
+        const char* letters = wireRecords().lettersInForceAt(time);
         Value value = letters == nullptr ? Value(width()) : Value::ofLetters({letters, width()});
         return readNet() == nullptr ? value : withoutZ(std::move(value));
     }
@@ -75,20 +75,28 @@ void Port::joinWire(Wire* wire, const std::shared_ptr<ValueRecords>& records) {
     wire_ = wire;
     if (direction_ == Direction::Inout) return;  // joins nets of the wire, and has nothing of its own
     // What reads a net drives what it reads there, not what is set.
-    if (wire->driver() == this && readNet() == nullptr) drivenWire_ = wire;
+    drivesWire_ = wire->driver() == this && readNet() == nullptr;
     shareRecords(records);
-    if (readNet() == nullptr || readNet()->getWire() == wire) wireRecords_ = records.get();
+    readsWire_ = readNet() == nullptr || readNet()->getWire() == wire;
+    updateHolder();
 }
 
 void Port::leaveWire() {
     wire_ = nullptr;
-    drivenWire_ = nullptr;
-    wireRecords_ = nullptr;
+    drivesWire_ = false;
+    readsWire_ = false;
+    updateHolder();
+}
+
+void Port::updateHolder() {
+    if (holder_ == nullptr) return;
+    const bool isOneWithWire = direction_ == Direction::Output ? drivesWire_ : readsWire_;
+    holder_->setWire(isOneWithWire ? wire_ : nullptr);
 }
 
 void Port::lettersAt(Time time, char* letters) const {
-    if (wireRecords_ != nullptr) {
-        const char* recorded = wireRecords_->lettersInForceAt(time);
+    if (readsWire_) {
+        const char* recorded = wireRecords().lettersInForceAt(time);
         if (recorded == nullptr) {
             std::fill_n(letters, width(), kUndefinedBit);
         } else {
@@ -191,12 +199,12 @@ void Port::disconnect(int side) {
 }
 
 void Port::refresh(Time time) {
-    if (drivenWire_ != nullptr) return drivenWire_->refresh(time);
+    if (drivesWire_) return wire_->refresh(time);
     set(get(time), time);
 }
 
 bool Port::isSettled(Time time) const {
-    return drivenWire_ != nullptr || (drivenBus_ != nullptr && drivenBus_->isSettled(time));
+    return drivesWire_ || (drivenBus_ != nullptr && drivenBus_->isSettled(time));
 }
 
 void Port::setOptions(const std::map<std::string, std::string>& options) {
@@ -221,6 +229,11 @@ void Port::dump() const {
 }
 
 Pin::Pin(Direction direction, const std::string& name) : Port(1, direction, name) {}
+
+void Pin::holdBy(HeldPin* holder) {
+    holder_ = holder;
+    updateHolder();
+}
 
 void Pin::pulse(Time period, int count, Time start) {
     Time time = start;

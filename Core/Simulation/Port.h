@@ -17,6 +17,7 @@ namespace tarnsim {
 
 class Bus;
 class Net;
+class HeldPin;
 
 /// A port's direction as its component sees it.
 enum class Direction : std::int32_t { Input = 0, Output = 1, Inout = 2 };
@@ -57,7 +58,7 @@ public:
     void setLetters(std::string_view letters, Time time);
     /// REQUIRES: a port of one bit
     void setLetter(char letter, Time time) {
-        if (drivenWire_ != nullptr && drivenWire_->passes(letter)) return drivenWire_->setLetter(letter, time);
+        if (drivesWire_ && wire_->passes(letter)) return wire_->setLetter(letter, time);
         setLetters({&letter, 1}, time);
     }
     /// The letters of `get`, as many as the port has bits.
@@ -97,10 +98,10 @@ public:
 
     void joinWire(Wire* wire, const std::shared_ptr<ValueRecords>& records);
     void leaveWire();
-    /// `place` is the bus's own note.
+    /// `place` is the bus's own note, below 256.
     void joinBus(Bus* bus, std::uint32_t place) {
         drivenBus_ = bus;
-        busPlace_ = static_cast<std::uint16_t>(place);
+        busPlace_ = static_cast<std::uint8_t>(place);
     }
     void leaveBus() { drivenBus_ = nullptr; }
     Bus* getBus() const { return drivenBus_; }
@@ -108,23 +109,28 @@ public:
     /// Makes a record and does nothing else.
     void recordLetters(std::string_view letters, Time time) { ownRecords().store(time, letters); }
     Wire* getWire() const { return wire_; }
-    /// Where reading and setting begin.
-    const void* hotPlace() const { return &drivenWire_; }
+    /// Where reading and setting begin; null if that's with the part that holds it.
+    const void* hotPlace() const { return holder_ == nullptr ? &wire_ : nullptr; }
     /// The net that `get` reads; null if it reads the port's own records. Not for Inouts.
     const Net* readNet() const { return direction_ == Direction::Input ? outsideNet_ : insideNet_; }
     /// The net that resolves when this port is set; null if there is none.
     Net* farNet() const { return direction_ == Direction::Output ? outsideNet_ : insideNet_; }
     /// What is set on this port, a wire takes.
-    bool drivesWire() const { return drivenWire_ != nullptr; }
+    bool drivesWire() const { return drivesWire_; }
     /// What is set on this port, a wire or a bus takes, and a refresh at `time` makes records but changes nothing.
     bool isSettled(Time time) const;
 
 protected:
     void leaveSharedRecords() override { cutWire(); }
-    /// The records that the port reads, if those are common ones; null if not.
-    const ValueRecords* wireRecords() const { return wireRecords_; }
+    /// What the port reads is what its wire records.
+    bool readsWire() const { return readsWire_; }
+    const ValueRecords& wireRecords() const { return wire_->records(); }
     /// What a reader of the port sees where the records have a `Z`.
     char readZ() const;
+    /// The part that holds the pin hears whether it goes to the wire by itself.
+    void updateHolder();
+
+    HeldPin* holder_ = nullptr;  ///< not owned; a Pin's only
 
 private:
     void cutWire();
@@ -137,16 +143,16 @@ private:
     Value readInout(Time time) const;
     Value withoutZ(Value value) const;
 
-    // These two take the room behind the members of ValueHistory: a board has more ports than anything else.
+    // The first ones take the room behind the members of ValueHistory: a board has more ports than anything else.
     Direction direction_ : 8;
-    bool ztr_ = true;
-    std::uint16_t busPlace_ = 0;
-    Net* outsideNet_ = nullptr;                  ///< not owned
-    Net* insideNet_ = nullptr;                   ///< not owned
-    Wire* drivenWire_ = nullptr;                 ///< not owned
-    Wire* wire_ = nullptr;                       ///< not owned; null while the port isn't part of one
-    const ValueRecords* wireRecords_ = nullptr;  ///< not owned
-    Bus* drivenBus_ = nullptr;                   ///< not owned
+    bool ztr_ : 1 = true;
+    bool drivesWire_ : 1 = false;
+    bool readsWire_ : 1 = false;
+    std::uint8_t busPlace_ = 0;
+    Net* outsideNet_ = nullptr;  ///< not owned
+    Net* insideNet_ = nullptr;   ///< not owned
+    Wire* wire_ = nullptr;       ///< not owned; null while the port isn't part of one
+    Bus* drivenBus_ = nullptr;   ///< not owned
 };
 
 /// A port of one bit.
@@ -156,15 +162,63 @@ public:
     Pin(const Pin& other) = default;
 
     /// The letter that the pin reads at `time`.
-    char level(Time time) const {
-        if (wireRecords() == nullptr) return get(time);
-        const char letter = wireRecords()->letterInForceAt(time, kUndefinedBit);
-        return letter == 'Z' ? readZ() : letter;
-    }
+    char level(Time time) const { return readsWire() ? levelOf(wireRecords(), time) : get(time); }
     void setLevel(char letter, Time time) { setLetter(letter, time); }
 
     /// Sets `count` periods of a square wave from `start` on, each low first and high from its middle. Times in ns.
     void pulse(Time period, int count, Time start);
+
+    // For HeldPin
+
+    char levelOf(const ValueRecords& records, Time time) const {
+        const char letter = records.letterInForceAt(time, kUndefinedBit);
+        return letter == 'Z' ? readZ() : letter;
+    }
+    void holdBy(HeldPin* holder);
+};
+
+/// A pin as its part holds it, as a member. Levels go straight to the wire that the pin is on: while a large board
+/// runs, the ports of its parts needn't be in the caches (a third of what an evaluation touched).
+class HeldPin {
+public:
+    ~HeldPin() { pin_.holdBy(nullptr); }
+    HeldPin(const HeldPin&) = delete;
+    HeldPin& operator=(const HeldPin&) = delete;
+
+    Pin& pin() const { return pin_; }
+
+    /// For the pin: its wire has become another. Null if there is none, or if the pin isn't simply what it shows.
+    void setWire(Wire* wire) { wire_ = wire; }
+
+    /// As that of the pin.
+    char level(Time time) const { return wire_ == nullptr ? pin_.level(time) : pin_.levelOf(wire_->records(), time); }
+
+protected:
+    /// The pin isn't owned and lives longer. It is held by one part.
+    explicit HeldPin(Pin& pin) : pin_(pin) { pin.holdBy(this); }
+    Wire* wire() const { return wire_; }
+
+private:
+    Pin& pin_;
+    Wire* wire_ = nullptr;  ///< not owned
+};
+
+/// An Input of a part.
+class InputPin : public HeldPin {
+public:
+    InputPin(Pin& pin) : HeldPin(pin) {}  // NOLINT(google-explicit-constructor): stands for the pin
+};
+
+/// An Output of a part.
+class OutputPin : public HeldPin {
+public:
+    OutputPin(Pin& pin) : HeldPin(pin) {}  // NOLINT(google-explicit-constructor): stands for the pin
+
+    /// As that of the pin.
+    void setLevel(char letter, Time time) {
+        if (wire() != nullptr && wire()->passes(letter)) return wire()->setLetter(letter, time);
+        pin().setLevel(letter, time);
+    }
 };
 
 /// Makes the ports of one component and owns them.

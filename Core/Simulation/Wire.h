@@ -8,6 +8,7 @@
 #include "Core/Simulation/Event.h"
 #include "Core/Simulation/EventSimulator.h"
 #include "Core/Values/Time.h"
+#include "Core/Values/Value.h"
 #include "Core/Values/ValueRecords.h"
 
 namespace tarnsim {
@@ -54,6 +55,7 @@ public:
     void join(const std::shared_ptr<void>& owner);
 
     const Port* driver() const { return driver_; }
+    const ValueRecords& records() const { return records_; }
     /// What drives the wire instead of a driver. Ends with it.
     void joinBus(Bus* bus) { bus_ = bus; }
     /// Whether all signals show a letter of the driver as it is. A `Z` doesn't get through ports to further levels, and

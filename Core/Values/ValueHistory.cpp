@@ -58,8 +58,8 @@ Value ValueHistory::get(Time time) const {
 }
 
 Value ValueHistory::recordedValue(Time time) const {
-    const auto record = records_ ? records_->inForceAt(time) : std::nullopt;
-    return record ? valueOfRecord(*record) : Value(width_);
+    const char* recorded = records_ ? records_->lettersInForceAt(time) : nullptr;
+    return recorded == nullptr ? Value(width_) : Value::ofLetters({recorded, width_});
 }
 
 Value ValueHistory::valueBefore(Time time) const {
