@@ -22,12 +22,12 @@ struct Expansion {
 
 constexpr auto kExpansions = [] {
     std::array<Expansion, 256> expansions{};
-    for (const unsigned char letter : std::string_view("hHlLxXzZuU")) {
-        expansions[letter] = {{static_cast<char>(letter)}, 1};
+    for (const char letter : std::string_view("hHlLxXzZuU")) {
+        expansions[static_cast<unsigned char>(letter)] = {{letter}, 1};
     }
-    for (const unsigned char digit : std::string_view("0123456789abcdefABCDEF")) {
-        const int number = isDigit(static_cast<char>(digit)) ? digit - '0' : (digit | 0x20) - 'a' + 10;
-        Expansion& expansion = expansions[digit];
+    for (const char digit : std::string_view("0123456789abcdefABCDEF")) {
+        const int number = isDigit(digit) ? digit - '0' : (digit | 0x20) - 'a' + 10;
+        Expansion& expansion = expansions[static_cast<unsigned char>(digit)];
         for (const int bit : {8, 4, 2, 1}) {
             expansion.letters[expansion.length++] = (number & bit) != 0 ? 'H' : 'L';
         }
