@@ -23,7 +23,7 @@ namespace tarnsim {
 /// are more. Of those of up to 16 letters the latest two stand in the object.
 class RecordStack {
 public:
-    RecordStack() = default;
+    RecordStack() : RecordStack(0) {}
     /// `width` letters a record.
     explicit RecordStack(std::size_t width) : width_(static_cast<std::uint8_t>(width)) {}
     RecordStack(const RecordStack& other);
