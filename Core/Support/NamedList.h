@@ -145,6 +145,7 @@ private:
             const std::uint32_t hash = hashOf(name);
             std::size_t at = home(hash);
             while (slots_[at].object != nullptr && slots_[at].hash != hash) at = next(at);
+            if (slots_[at].object == nullptr) return;
             const auto* object = reinterpret_cast<const char*>(slots_[at].object);
             for (std::size_t line = 0; line < sizeof(T); line += 64) __builtin_prefetch(object + line);
         }
