@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <deque>
+#include <map>
 #include <memory>
 #include <span>
 #include <typeinfo>
@@ -351,6 +352,23 @@ private:
         }
         begins_.back().passesZ =
             wires_.nets.size() == endOfFirst && (driver == nullptr || driver->readNet() == nullptr);
+        groupListeners(begins_.back().listeners);
+    }
+    /// Enters many listeners of one delay as one group. Those from `begin` on are the wire's.
+    void groupListeners(std::size_t begin) {
+        constexpr std::size_t kLeast = 8;
+        auto& listeners = wires_.listeners;
+        if (listeners.size() < begin + kLeast) return;
+        std::map<std::uint32_t, std::vector<EventNumber>> byDelay;
+        for (const auto& [delay, event] : std::span(listeners).subspan(begin)) byDelay[delay].push_back(event);
+        listeners.resize(begin);
+        for (auto& [delay, events] : byDelay) {
+            if (events.size() >= kLeast) {
+                listeners.push_back({delay, simulator_.events().numberOfGroup(std::move(events))});
+            } else {
+                for (const EventNumber event : events) listeners.push_back({delay, event});
+            }
+        }
     }
     bool isFollowerOnWire(const Port& port) {
         Net* net = nearNet(port);

@@ -24,7 +24,7 @@ public:
     /// What counts as the last evaluation until there is one. Before time 0 pins read U, at 0 they may have a level.
     explicit EdgeDetector(Time lastEvaluation) : lastEvaluation_(lastEvaluation) {}
 
-    /// For an evaluation at `time` of a part with `delay` ns.
+    /// For an evaluation at `time` of a part with `delay` ns. The clock is a Pin, or one that is held as an InputPin.
     template <class ClockPin>
     ClockStep step(const ClockPin& clock, Time time, std::uint32_t delay) const {
         return {clock.level(earlier(lastEvaluation_, delay)), clock.level(earlier(time, delay))};

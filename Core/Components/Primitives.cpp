@@ -66,7 +66,7 @@ void D_flip_flop::reset() {
 
 void D_flip_flop::evaluate(Time time) {
     const Time then = inputTime(time);
-    if (edges_.step(clk, time, getDelay()).isRising()) state_.storeLetter(time, D.level(then));
+    if (edges_.step(clk, time, getDelay()).isRising()) state_.storeLetter(time, D.level(then), kUndefinedBit);
     edges_.evaluatedAt(time);
 
     const auto write = [&](char q, char inverse) {

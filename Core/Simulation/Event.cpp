@@ -1,5 +1,6 @@
 #include "Core/Simulation/Event.h"
 
+#include <algorithm>
 #include <functional>
 #include <utility>
 
@@ -21,6 +22,12 @@ EventNumber EventDirectory::numberOf(const Event& event) {
     targetCreations_.push_back(event.target->getCreationNumber());
     if (next > 0 && !comesBefore(next - 1, next)) isInOrder_ = false;
     return next;
+}
+
+EventNumber EventDirectory::numberOfGroup(std::vector<EventNumber> members) {
+    std::ranges::sort(members, [this](EventNumber a, EventNumber b) { return comesBefore(a, b); });
+    groups_.push_back({std::move(members)});
+    return kFirstGroup + static_cast<EventNumber>(groups_.size() - 1);
 }
 
 void EventDirectory::reserve(std::size_t events) {

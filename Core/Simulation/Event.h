@@ -4,6 +4,7 @@
 #include <limits>
 #include <span>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "Core/Values/Time.h"
@@ -23,7 +24,7 @@ struct Event {
 /// Evaluates a component whose class it knows.
 using Evaluator = void (*)(Component& component, Time time);
 
-/// An event within a run, by its number in the run's EventDirectory.
+/// An event within a run, by its number in the run's EventDirectory; or several, a group.
 using EventNumber = std::uint32_t;
 
 /// All events that a run has met, by number; a directory serves one queue. A run deals in numbers: they take half the
@@ -43,13 +44,17 @@ public:
     /// All numbers ascend as their events do.
     bool isInOrder() const { return isInOrder_; }
 
+    /// Events that are entered together get a number for all of them: a clock that is laid down for a whole run, with
+    /// thousands of parts on it, is one entry an edge. REQUIRES: no groups among them
+    EventNumber numberOfGroup(std::vector<EventNumber> members);
+    static bool isGroup(EventNumber number) { return number >= kFirstGroup; }
+    std::span<const EventNumber> membersOf(EventNumber group) const { return groups_[group - kFirstGroup].members; }
+
     /// Notes that the event is entered for `time`. False if that was the last thing that was noted of it: parts with
     /// several inputs are mostly entered in a row.
     bool note(EventNumber number, Time time) {
-        Entry& entry = entries_[number];
-        if (entry.lastTime == time) return false;
-        entry.lastTime = time;
-        return true;
+        std::int64_t& last = isGroup(number) ? groups_[number - kFirstGroup].lastTime : entries_[number].lastTime;
+        return std::exchange(last, time) != time;
     }
 
     /// Makes room for that many events.
@@ -86,12 +91,20 @@ private:
         std::int64_t lastTime = std::numeric_limits<std::int64_t>::min();
     };
 
+    struct Group {
+        std::vector<EventNumber> members;  ///< in order
+        std::int64_t lastTime = std::numeric_limits<std::int64_t>::min();
+    };
+
     struct Extent {
         std::uint32_t begin = 0;
         std::uint32_t end = 0;
     };
 
+    static constexpr EventNumber kFirstGroup = EventNumber{1} << 31U;
+
     std::vector<Entry> entries_;
+    std::vector<Group> groups_;
     std::vector<std::uint64_t> targetCreations_;           ///< kept here, since targets may die before the run
     std::unordered_map<Event, EventNumber, Hash> tagged_;  ///< a plain one is known to its target
     std::vector<Extent> touched_;                          ///< by number, in `places_`

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <functional>
 
 namespace tarnsim {
 
@@ -20,9 +21,23 @@ std::span<const EventNumber> EventSet::take(std::vector<EventNumber>& entered) {
         pass_.clear();
     }
     pass_.swap(entered);
+    if (std::ranges::any_of(pass_, EventDirectory::isGroup)) spreadGroups();
     if (!taken_.empty()) std::erase_if(pass_, [this](EventNumber number) { return isTaken_[number]; });
     sort();
     return pass_;
+}
+
+void EventSet::spreadGroups() {
+    spread_.clear();
+    for (const EventNumber number : pass_) {
+        if (EventDirectory::isGroup(number)) {
+            const auto members = directory_.membersOf(number);
+            spread_.insert(spread_.end(), members.begin(), members.end());
+        } else {
+            spread_.push_back(number);
+        }
+    }
+    pass_.swap(spread_);
 }
 
 /// A pass of a large board is a few hundred events out of some thousand: to set a bit for each and read the bits back
@@ -44,6 +59,7 @@ void EventSet::sort() {
     if (!directory_.isInOrder()) {
         std::ranges::sort(pass_, [this](EventNumber a, EventNumber b) { return directory_.comesBefore(a, b); });
     } else {
+        if (std::ranges::adjacent_find(pass_, std::greater_equal()) == pass_.end()) return;
         constexpr std::size_t kFew = 8;
         const auto [least, greatest] = std::ranges::minmax(pass_);
         if (pass_.size() > kFew && (greatest - least) / 64 < pass_.size()) return sortByBits(least, greatest);

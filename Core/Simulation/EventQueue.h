@@ -27,11 +27,14 @@ public:
     std::span<const EventNumber> take(std::vector<EventNumber>& entered);
 
 private:
+    /// Puts their members in the place of groups.
+    void spreadGroups();
     void sort();
     void sortByBits(EventNumber least, EventNumber greatest);
 
     const EventDirectory& directory_;
     std::vector<EventNumber> pass_;
+    std::vector<EventNumber> spread_;  ///< for spreadGroups; its memory is kept
     std::vector<std::uint64_t> bits_;  ///< all 0 between two calls
     std::vector<EventNumber> taken_;   ///< by the passes before this one
     std::vector<bool> isTaken_;        ///< the same, by number

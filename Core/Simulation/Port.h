@@ -178,7 +178,8 @@ public:
 };
 
 /// A pin as its part holds it, as a member. Levels go straight to the wire that the pin is on: while a large board
-/// runs, the ports of its parts needn't be in the caches (a third of what an evaluation touched).
+/// runs, the ports of its parts needn't be in the caches (a third of what an evaluation touched). For the parts that
+/// boards have thousands of; others hold a `Pin&`.
 class HeldPin {
 public:
     ~HeldPin() { pin_.holdBy(nullptr); }

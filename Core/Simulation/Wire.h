@@ -75,9 +75,7 @@ public:
     void repeat(std::string_view letters, Time time) { records_.store(time, letters); }
     /// REQUIRES: the signals have one bit, and the letter passes
     void setLetter(char letter, Time time) {
-        const bool isChange = records_.letterInForceAt(time, kUndefinedBit) != letter;
-        records_.storeLetter(time, letter);
-        if (isChange) notify(time);
+        if (records_.storeLetter(time, letter, kUndefinedBit) != letter) notify(time);
     }
 
     /// Lets go of all signals.

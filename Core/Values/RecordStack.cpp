@@ -33,7 +33,7 @@ public:
         const Unit top = units_[end_ - 1];
         const std::uint32_t gap =
             isLong(top) ? std::uint32_t{units_[end_ - 3]} << 16U | units_[end_ - 2] : std::uint32_t{top} >> kCodeBits;
-        time_ = static_cast<Time>(static_cast<std::uint32_t>(time_) - gap);
+        time_ = earlierBy(time_, gap);
         end_ -= isLong(top) ? kLongLength : 1;
     }
     void goDown(std::size_t count) {
@@ -59,7 +59,7 @@ RecordStack::Depth& RecordStack::depth() {
 }
 
 const char* RecordStack::topLetters() const {
-    if (width_ == 1) return textOf(letterOf(units_[used_ - 1U]));
+    if (width_ == 1) return textOf(topLetter());
     return recent_ > 0 ? texts_.top.data() : lettersInChunk(below_ - 1U);
 }
 
@@ -103,22 +103,19 @@ const char* RecordStack::lettersInForceAt(Time time) const {
 }
 
 char RecordStack::letterFurtherBackAt(Time time, char none) const {
-    // The few that a part mostly wants come before all else.
-    constexpr std::uint8_t kFew = 3;
-    Reader reader(units_.data(), used_, latest_);
-    std::size_t left = recent_;
-    for (const std::size_t rest = left - std::min(recent_, kFew); left > rest; --left) {
-        if (reader.time() <= time) return reader.letter();
-        reader.goDown();
-    }
+    bool isInBlocks = false;
     if (below_ > 0) {
         for (const Found& each : depth_->found) {
             if (each.from <= time && time < each.until) return each.letter;
         }
+        isInBlocks = depth_->block(depth_->blockCount() - 1).latest >= time;
     }
-    for (; left > 0; --left) {
-        if (reader.time() <= time) return reader.letter();
-        reader.goDown();
+    if (!isInBlocks) {
+        Reader reader(units_.data(), used_, latest_);
+        for (std::size_t left = recent_; left > 0; --left) {
+            if (reader.time() <= time) return reader.letter();
+            reader.goDown();
+        }
     }
     if (below_ == 0) return none;
     const Found& found = findInBlocks(time);

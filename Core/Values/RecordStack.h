@@ -63,13 +63,20 @@ public:
     const char* lettersInForceAt(Time time) const;
     /// For records of one letter; `none` if all are later.
     char letterInForceAt(Time time, char none) const {
-        if (latest_ <= time && recent_ > 0) return letterOf(units_[used_ - 1U]);
+        if (recent_ == 0) return none;
+        const Unit top = units_[used_ - 1U];
+        if (latest_ <= time) return letterOf(top);
+        // A part's inputs have mostly changed once since the time that it looks at, if at all.
+        const bool isSecondNear = recent_ > 1 && !isLong(top);
+        if (isSecondNear && earlierBy(latest_, top >> kCodeBits) <= time) return letterOf(units_[used_ - 2U]);
         return letterFurtherBackAt(time, none);
     }
 
     // REQUIRES: size() > 0
 
     Time topTime() const { return latest_; }
+    /// For records of one letter.
+    char topLetter() const { return letterOf(units_[used_ - 1U]); }
     const char* topLetters() const;
     void pop();
     /// Gives the top other letters.
@@ -151,6 +158,9 @@ private:
 
     static std::uint32_t distance(Time later, Time earlier) {
         return static_cast<std::uint32_t>(later) - static_cast<std::uint32_t>(earlier);
+    }
+    static Time earlierBy(Time time, std::uint32_t gap) {
+        return static_cast<Time>(static_cast<std::uint32_t>(time) - gap);
     }
     static bool isLong(Unit top) { return (top & kLong) == kLong; }
     static char letterOf(Unit top) { return isLong(top) ? static_cast<char>(top >> kCodeBits) : kLetters[top & kLong]; }

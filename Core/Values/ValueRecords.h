@@ -37,13 +37,16 @@ public:
             storeAnywhere(time, letters);
         }
     }
-    /// The same for records of one letter.
-    void storeLetter(Time time, char letter) {
+    /// The same for records of one letter. Returns the one that was in force at `time`; `none` if none was.
+    char storeLetter(Time time, char letter, char none) {
         if (isNext(time, 1)) {
+            const char former = before_.topLetter();
             before_.pushLetter(time, letter);
-        } else {
-            storeAnywhere(time, {&letter, 1});
+            return former;
         }
+        const char former = letterInForceAt(time, none);
+        storeAnywhere(time, {&letter, 1});
+        return former;
     }
 
     /// The last record that isn't later than `time`; nothing if there is none.
