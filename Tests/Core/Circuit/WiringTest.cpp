@@ -595,6 +595,38 @@ TEST(Wiring, ARingOfNetsIsNoWire) {
     EXPECT_NE(errorOf([&] { in->set(Value("H"), 1); }), "(no Error)");
 }
 
+/// A clock with many listeners, some of the same delay and some alone, and several runs over the same histories.
+TEST(Wiring, ManyListenersAreEvaluatedEachAfterItsDelay) {
+    constexpr int kUnits = 30;
+    constexpr Time kEnd = 200;
+    std::string text = "Pin Input a\nUnit Oscillator clock(frequency=50000000,offset=3)\n";
+    std::string net = "Net n_clock clock.out";
+    for (int i = 0; i < kUnits; ++i) {
+        text += format("Unit Xor u%d(delay=%d)\n", i, i < 20 ? 3 : i % 4);
+        net += format(" u%d.a", i);
+    }
+    text += net + "\nNet n_a a";
+    for (int i = 0; i < kUnits; ++i) text += format(" u%d.b", i);
+    std::map<bool, std::vector<std::string>> histories;
+    Listener listener;
+    for (const bool isWired : {true, false}) {
+        const auto board = circuitFrom(text + "\n");
+        if (!isWired) visitSignals(*board, [&](ValueHistory& history) { history.subscribe(&listener); });
+        EventSimulator simulator(board.get());
+        simulator.prepare(kEnd);
+        EXPECT_EQ(board->findPort("clock.out")->getWire() != nullptr, isWired);
+        for (const Time change : {50, 90, 91, 120}) {
+            board->findPort("a")->set(Value(change % 20 == 10 ? 'H' : 'L', 1), change);
+            simulator.run(kEnd);
+        }
+        visitSignals(*board, [&](ValueHistory& history) { histories[isWired].push_back(everythingOf(history, kEnd)); });
+        // The clock rises at 3, 23, 43, 63, and `a` is high from 50 on.
+        EXPECT_EQ(board->findPort("u0.out")->get(65), 'H');
+        EXPECT_EQ(board->findPort("u0.out")->get(66), 'L');
+    }
+    EXPECT_EQ(histories[true], histories[false]);
+}
+
 TEST(Wiring, AnyNumberOfLevelsIsOneWire) {
     constexpr int kLevels = 20000;
     std::vector<std::unique_ptr<Circuit>> levels;

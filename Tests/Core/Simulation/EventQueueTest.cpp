@@ -77,6 +77,28 @@ TEST_F(EventDirectoryTest, SeesWhetherItsNumbersAreInOrder) {
     EXPECT_FALSE(directory.isInOrder());
 }
 
+TEST_F(EventDirectoryTest, HasOneNumberForAGroup) {
+    const EventNumber last = number(b);
+    const EventNumber first = number(a, 1);
+    const EventNumber group = directory.numberOfGroup({last, first});
+    EXPECT_TRUE(EventDirectory::isGroup(group));
+    EXPECT_FALSE(EventDirectory::isGroup(first));
+    EXPECT_EQ(pairsOf(directory.membersOf(group)), (Pairs{{"a", 1}, {"b", 0}}));
+    EXPECT_NE(directory.numberOfGroup({last, first}), group);
+    EXPECT_EQ(pairsOf(directory.membersOf(group)), (Pairs{{"a", 1}, {"b", 0}}));
+}
+
+TEST_F(EventDirectoryTest, NotesWhatIsEnteredTwiceInARow) {
+    const EventNumber single = number(a);
+    const EventNumber group = directory.numberOfGroup({single});
+    for (const EventNumber each : {single, group}) {
+        EXPECT_TRUE(directory.note(each, 7));
+        EXPECT_FALSE(directory.note(each, 7));
+        EXPECT_TRUE(directory.note(each, 8));
+        EXPECT_TRUE(directory.note(each, 7));
+    }
+}
+
 class EventSetTest : public EventsOfProbes {
 protected:
     EventSet set{directory};
@@ -114,6 +136,17 @@ TEST_F(EventSetTest, ALaterPassHasWhatNoPassBeforeHad) {
     set.begin();
     entered = {number(b), number(a, 3)};
     EXPECT_EQ(pairsOf(set.take(entered)), (Pairs{{"a", 3}, {"b", 0}}));
+}
+
+TEST_F(EventSetTest, TakesTheMembersOfGroups) {
+    const EventNumber group = directory.numberOfGroup({number(b), number(a), number(a, 4)});
+    entered = {group};
+    EXPECT_EQ(pairsOf(set.take(entered)), (Pairs{{"a", 0}, {"a", 4}, {"b", 0}}));
+    entered = {group, number(b, 2)};
+    EXPECT_EQ(pairsOf(set.take(entered)), (Pairs{{"b", 2}}));
+    set.begin();
+    entered = {number(a), number(b, 1), group, number(a, 5)};
+    EXPECT_EQ(pairsOf(set.take(entered)), (Pairs{{"a", 0}, {"a", 4}, {"a", 5}, {"b", 0}, {"b", 1}}));
 }
 
 /// Numbers are given out in the order of the events, or not, and there are few events or many: it's all sorted alike.
@@ -249,6 +282,20 @@ TEST_F(EventQueueTest, WhatIsEnteredForThePastWaitsForARewind) {
     EXPECT_EQ(takeNext(), "9999: b0");
     EXPECT_EQ(takeNext(), "10000: a0");
     EXPECT_EQ(takeNext(), "nothing");
+}
+
+TEST_F(EventQueueTest, ARewindBringsGroupsBack) {
+    const EventNumber group = directory.numberOfGroup({number(a), number(b)});
+    for (const Time time : {1, 2, 20000}) queue.insert(group, time);
+    queue.insert(number(b), 2);
+    EXPECT_EQ(takeNext(), "1: a0 b0");
+    for (int run = 0; run < 2; ++run) {
+        queue.rewind();
+        EXPECT_EQ(takeNext(), "1: a0 b0");
+        EXPECT_EQ(takeNext(), "2: a0 b0");
+        EXPECT_EQ(takeNext(), "20000: a0 b0");
+        EXPECT_EQ(takeNext(), "nothing");
+    }
 }
 
 TEST_F(EventQueueTest, ARewindBringsEverythingBackTakenOrNot) {

@@ -3,6 +3,7 @@
 #include <map>
 #include <string>
 
+#include "Core/Support/Text.h"
 #include "Tests/Support/RandomText.h"
 #include "Tests/Support/TestSupport.h"
 
@@ -98,38 +99,93 @@ TEST(ValueRecords, TakeAnotherWidthOnceTheyAreCleared) {
     EXPECT_EQ(recordsOf(records), (Records{{0, "H"}}));
 }
 
-/// Writes at random times, nearly always late or, with `mostlyForward`, hardly ever, and compares with a map.
-void compareWithAMap(std::size_t width, bool mostlyForward) {
+struct WritingStyle {
+    std::size_t width;
+    bool mostlyForward;    ///< hardly ever late, or else nearly always
+    Time longestStep = 3;  ///< ns from one record to the next
+    std::string letters = "LHUZX";
+};
+
+/// Writes at random times and compares with a map.
+void compareWithAMap(const WritingStyle& style) {
+    SCOPED_TRACE(format("%zu letters, steps of %d", style.width, style.longestStep));
     RandomNumbers numbers;
     ValueRecords records;
     Records map;
     Time latest = 0;
     for (int i = 0; i < 2000; ++i) {
-        const bool isLate = !mostlyForward || numbers.below(10) == 0;
-        latest += isLate ? 0 : numbers.between(0, 3);
+        const bool isLate = !style.mostlyForward || numbers.below(10) == 0;
+        latest += isLate ? 0 : numbers.between(0, style.longestStep);
         const Time time = isLate ? numbers.between(-50, latest + 50) : latest;
         std::string letters;
-        while (letters.size() < width) letters += numbers.letterOf("LHUZX");
+        while (letters.size() < style.width) letters += numbers.letterOf(style.letters);
         records.store(time, letters);
         map[time] = letters;
-        const Time asked = numbers.between(-60, latest + 60);
-        const auto next = map.upper_bound(asked);
-        const auto inForce = records.inForceAt(asked);
-        ASSERT_EQ(inForce.has_value(), next != map.begin());
-        if (inForce) {
-            ASSERT_EQ(records.lettersOf(*inForce), std::prev(next)->second);
+        // Some look near the latest record, others anywhere, and some twice.
+        const Time asked = numbers.below(2) == 0 ? latest - numbers.between(0, 3 * style.longestStep)
+                                                 : numbers.between(-60, latest + 60);
+        for (const Time each : {asked, asked, asked - 1}) {
+            const auto next = map.upper_bound(each);
+            const auto inForce = records.inForceAt(each);
+            ASSERT_EQ(inForce.has_value(), next != map.begin());
+            if (inForce) {
+                ASSERT_EQ(records.lettersOf(*inForce), std::prev(next)->second);
+                ASSERT_EQ(std::string_view(records.lettersInForceAt(each), style.width), std::prev(next)->second);
+            } else {
+                ASSERT_EQ(records.lettersInForceAt(each), nullptr);
+            }
+            if (style.width == 1) {
+                ASSERT_EQ(records.letterInForceAt(each, '?'), inForce ? std::prev(next)->second.front() : '?');
+            }
+            ASSERT_EQ(records.firstFrom(each), std::distance(map.begin(), map.lower_bound(each)));
         }
-        ASSERT_EQ(records.firstFrom(asked), std::distance(map.begin(), map.lower_bound(asked)));
     }
     EXPECT_EQ(recordsOf(records), map);
     EXPECT_EQ(records.size(), map.size());
+    EXPECT_EQ(recordsOf(ValueRecords(records)), map);
 }
 
 TEST(ValueRecords, HoldWhatAMapHolds) {
-    for (const std::size_t width : {1U, 8U, 255U}) {
-        compareWithAMap(width, true);
-        compareWithAMap(width, false);
+    for (const std::size_t width : {1U, 2U, 8U, 16U, 17U, 255U}) {
+        compareWithAMap({.width = width, .mostlyForward = true});
+        compareWithAMap({.width = width, .mostlyForward = false});
     }
+}
+
+TEST(ValueRecords, MayLieFarApart) {
+    for (const std::size_t width : {1U, 8U}) {
+        for (const Time longestStep : {8190, 8195, 70000, 1000000}) {
+            compareWithAMap({.width = width, .mostlyForward = true, .longestStep = longestStep});
+            compareWithAMap({.width = width, .mostlyForward = false, .longestStep = longestStep});
+        }
+    }
+}
+
+TEST(ValueRecords, TakeAnyLetter) {
+    using namespace std::string_literals;
+    compareWithAMap({.width = 1, .mostlyForward = true, .letters = "LHUZXlx?\xFF\0\x07"s});
+    compareWithAMap({.width = 1, .mostlyForward = false, .letters = "LHUZXlx?\xFF\0\x07"s});
+}
+
+TEST(ValueRecords, AreFoundAgainWhenTheOnesBehindHaveChanged) {
+    ValueRecords records;
+    for (Time time = 0; time < 100; ++time) records.store(10 * time, time % 2 == 0 ? "L" : "H");
+    EXPECT_EQ(records.letterInForceAt(15, '?'), 'H');
+    EXPECT_EQ(records.letterInForceAt(19, '?'), 'H');
+    records.store(17, "Z");
+    EXPECT_EQ(records.letterInForceAt(16, '?'), 'H');
+    EXPECT_EQ(records.letterInForceAt(19, '?'), 'Z');
+    EXPECT_EQ(records.letterInForceAt(20, '?'), 'L');
+}
+
+TEST(ValueRecords, TellWhatALetterReplaces) {
+    ValueRecords records;
+    EXPECT_EQ(records.storeLetter(5, 'L', '?'), '?');
+    EXPECT_EQ(records.storeLetter(9, 'H', '?'), 'L');
+    EXPECT_EQ(records.storeLetter(9, 'Z', '?'), 'H');
+    EXPECT_EQ(records.storeLetter(7, 'U', '?'), 'L');
+    EXPECT_EQ(records.storeLetter(3, 'X', '?'), '?');
+    EXPECT_EQ(recordsOf(records), (Records{{3, "X"}, {5, "L"}, {7, "U"}, {9, "Z"}}));
 }
 
 }  // namespace
