@@ -61,6 +61,24 @@ private:
     std::string path_ = "/tmp/tarnsim-benchmark-" + std::to_string(std::rand()) + ".nlx";
 };
 
+/// A change on a wire with that many listeners of one delay: a record, and the events of all.
+void changeWire(benchmark::State& state) {
+    const std::int64_t gates = state.range(0);
+    std::string text = "Pin Input a\nUnit Inv g[" + std::to_string(gates) + "]\nNet na a";
+    for (std::int64_t i = 0; i < gates; ++i) text += " g[" + std::to_string(i) + "].in";
+    const CircuitFile file(text + "\n");
+    const auto circuit = CircuitFileReader().load(file.path());
+    auto* input = dynamic_cast<Pin*>(circuit->findPort("a"));
+    constexpr Time kChanges = 10'000;
+    for (auto _ : state) {
+        EventSimulator simulator(circuit.get());
+        simulator.prepare(0);
+        for (Time change = 0; change < kChanges; ++change) input->setLevel(change % 2 == 0 ? 'L' : 'H', change * 50);
+    }
+    state.SetItemsProcessed(state.iterations() * kChanges);
+}
+BENCHMARK(changeWire)->ArgName("listeners")->Arg(1)->Arg(4)->Arg(16)->Arg(256);
+
 void evaluateGates(benchmark::State& state) {
     constexpr std::int64_t kGates = 1000;
     constexpr Time kEdges = 200;

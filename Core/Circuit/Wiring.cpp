@@ -356,7 +356,7 @@ private:
     }
     /// Enters many listeners of one delay as one group. Those from `begin` on are the wire's.
     void groupListeners(std::size_t begin) {
-        constexpr std::size_t kLeast = 8;
+        constexpr std::size_t kLeast = 4;
         auto& listeners = wires_.listeners;
         if (listeners.size() < begin + kLeast) return;
         std::map<std::uint32_t, std::vector<EventNumber>> byDelay;
