@@ -608,7 +608,6 @@ TEST(Wiring, ManyListenersAreEvaluatedEachAfterItsDelay) {
     text += net + "\nNet n_a a";
     for (int i = 0; i < kUnits; ++i) text += format(" u%d.b", i);
     std::map<bool, std::vector<std::string>> histories;
-    Listener listener;
     for (const bool isWired : {true, false}) {
         const auto board = circuitFrom(text + "\n");
         if (!isWired) visitSignals(*board, [&](ValueHistory& history) { history.subscribe(&listener); });
