@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "Cli/CliCircuitVerifier.h"
+#include "Cli/StandardStreams.h"
 #include "Core/Support/Error.h"
 #include "Core/Support/Text.h"
 
@@ -51,7 +52,10 @@ void parseOptions(int argc, char** argv, CommandLineOptions& options) {
     int option = 0;
     while ((option = getopt(argc, argv, "hvp:n:R:")) != -1) {
         switch (option) {
-            case 'h': std::printf("%s", kUsage); std::exit(0);
+            case 'h':
+                std::printf("%s", kUsage);
+                finishOutput();
+                std::exit(0);
             case 'v': options.verify = true; break;
             case 'p': options.pins = optarg; break;
             case 'n': options.nets = optarg; break;

@@ -1,27 +1,21 @@
 #include <algorithm>
-#include <cstdio>
-#include <exception>
 
 #include "Cli/CommandLine.h"
-
-namespace {
-
-/// The runtime's own way to end a process after an exception that nobody catches: says what it was, then aborts.
-std::terminate_handler runtimeTerminate = nullptr;
-
-/// What was printed so far may still sit in a buffer, as it does when the output goes to a pipe.
-void flushAndTerminate() {
-    std::fflush(stdout);
-    runtimeTerminate();
-}
-
-}  // namespace
+#include "Cli/StandardStreams.h"
+#include "Cli/Termination.h"
 
 int main(int argc, char** argv) {
-    runtimeTerminate = std::set_terminate(flushAndTerminate);
+    tarnsim::prepareTermination();
+    tarnsim::prepareStandardStreams();
     tarnsim::CommandLineOptions options;
     tarnsim::parseOptions(argc, argv, options);
-    if (options.verify) return static_cast<int>(std::min(tarnsim::verifyRun(options), 255U));
-    tarnsim::printRun(options);
-    return 0;
+    if (!options.verify) {
+        tarnsim::printRun(options);
+        tarnsim::finishOutput();
+        return 0;
+    }
+    const std::uint32_t failures = std::min(tarnsim::verifyRun(options), 255U);
+    // A verdict that nobody could read is none.
+    const std::uint32_t leastStatus = tarnsim::finishOutput() ? 0 : 1;
+    return static_cast<int>(std::max(failures, leastStatus));
 }

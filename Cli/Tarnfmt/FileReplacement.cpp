@@ -46,6 +46,10 @@ FileStamp stampOf(const struct stat& status) {
     return {status.st_dev, status.st_ino, status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
 }
 
+[[noreturn]] void refuseChanged() {
+    throw Error(std::string("was changed by somebody else meanwhile"));
+}
+
 std::string readAll(int descriptor) {
     std::string bytes;
     std::array<char, 65536> block{};
@@ -133,7 +137,7 @@ std::string targetOf(const std::string& path) {
 void requireUnchanged(const std::string& target, const FileSnapshot& old) {
     struct stat status = {};
     if (lstat(target.c_str(), &status) != 0) fail("cannot be found any longer");
-    if (stampOf(status) != old.stamp) throw Error(std::string("was changed by somebody else meanwhile"));
+    if (stampOf(status) != old.stamp) refuseChanged();
 }
 
 }  // namespace
@@ -156,6 +160,8 @@ FileSnapshot readSnapshot(const std::string& path) {
     snapshot.owner = status.st_uid;
     snapshot.group = status.st_gid;
     snapshot.contents = readAll(file.number());
+    if (fstat(file.number(), &status) != 0) fail("cannot be read");
+    if (S_ISREG(status.st_mode) && stampOf(status) != snapshot.stamp) refuseChanged();
     return snapshot;
 }
 

@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <exception>
+#include <new>
 
 #include "Cli/Tarnfmt/FileReplacement.h"
 #include "Core/Support/Error.h"
@@ -64,8 +65,8 @@ void checkFiles(const FormatOptions& options) {
     }
 }
 
-void report(const std::string& file, const std::string& message) {
-    std::fprintf(stderr, "tarnfmt: %s: %s\n", file.c_str(), message.c_str());
+void report(const char* file, const char* message) {
+    std::fprintf(stderr, "tarnfmt: %s: %s\n", file, message);
 }
 
 void reportLosses(const std::string& file, const std::vector<Loss>& losses) {
@@ -105,9 +106,11 @@ bool tryToFormat(const std::string& path, const FormatOptions& options) {
         formatFile(path, options);
         return true;
     } catch (const Error& error) {
-        report(path, trimmed(error.what()));
+        report(path.c_str(), trimmed(error.what()).c_str());
+    } catch (const std::bad_alloc&) {
+        report(path.c_str(), "there is not enough memory");
     } catch (const std::exception& error) {
-        report(path, error.what());
+        report(path.c_str(), error.what());
     }
     return false;
 }
@@ -117,7 +120,7 @@ int print(const std::string& text) {
         writeOutput(STDOUT_FILENO, text);
         return 0;
     } catch (const Error& error) {
-        report("the standard output", error.what());
+        report("the standard output", error.what().c_str());
         return kFailed;
     }
 }

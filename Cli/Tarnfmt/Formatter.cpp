@@ -89,10 +89,16 @@ std::unique_ptr<Circuit> loadCircuit(const std::string& path, const std::string&
     return circuit;
 }
 
+/// Without it a stream that runs out of memory leaves the rest of a text out and says nothing.
+void raiseFailuresOf(std::ostream& stream) {
+    stream.exceptions(std::ios::badbit);
+}
+
 void formatCircuit(const std::string& path, const std::string& contents, NormalForm& result) {
     const auto circuit = loadCircuit(path, contents);
     refuseWideGaps(*circuit);
     std::ostringstream stream;
+    raiseFailuresOf(stream);
     CircuitFileWriter(circuit.get()).write(stream, false);
     result.text = stream.str();
 }
@@ -110,6 +116,7 @@ void formatSignals(const std::string& path, const std::string& contents, NormalF
     TestSequence sequence(TestSequence::kEmpty);
     TestSequenceFileReader().read(path, contents, sequence);
     std::ostringstream stream;
+    raiseFailuresOf(stream);
     TestSequenceFileWriter().write(sequence, stream, sequence.hasDeltaTime());
     result.text = stream.str();
 }
@@ -141,6 +148,8 @@ NormalForm normalFormOf(FileKind kind, const std::string& path, const std::strin
         (isCircuit ? checkCircuit : checkSignals)(path, contents, result);
     } catch (const Error& error) {
         result.readingFailure = trimmed(error.what());
+    } catch (const std::bad_alloc&) {
+        throw;  // no fault of the text
     } catch (const std::exception& error) {
         result.readingFailure = error.what();
     }

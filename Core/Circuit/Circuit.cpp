@@ -88,7 +88,8 @@ void Circuit::evaluate(Time time) {
 void Circuit::disconnectPorts() {
     for (Component* child : children_) child->disconnectPorts();
     Component::disconnectPorts();
-    removeEmptyNets();
+    // Where all nets go they needn't be looked for, and a circuit that dies for want of memory may ask for none.
+    if (!netsAreDissolved_) removeEmptyNets();
 }
 
 void Circuit::removeEmptyNets() {

@@ -101,7 +101,7 @@ struct EventSimulator::Table {
     std::vector<Column<Net>> nets;
     std::string row;  ///< kept for its room
 
-    void printHeader() {
+    bool printHeader() {
         row = "Time    ";
         for (std::size_t i = 0; i < ports.size(); ++i) {
             if (i == firstOutput) row += " => ";
@@ -113,10 +113,10 @@ struct EventSimulator::Table {
             appendRight(row, net.width, net.name);
             row += ' ';
         }
-        printRow();
+        return printRow();
     }
 
-    void printValues(Time time) {
+    bool printValues(Time time) {
         row.clear();
         appendTime(row, time);
         row += ": ";
@@ -130,13 +130,13 @@ struct EventSimulator::Table {
             appendRight(row, net.width, net.signal->get(time).letters());
             row += ' ';
         }
-        printRow();
+        return printRow();
     }
 
 private:
-    void printRow() {
+    bool printRow() {
         row += '\n';
-        std::fwrite(row.data(), 1, row.size(), stdout);
+        return std::fwrite(row.data(), 1, row.size(), stdout) == row.size();
     }
 };
 
@@ -156,9 +156,9 @@ EventSimulator::Table EventSimulator::makeTable(const std::vector<std::string>& 
     return table;
 }
 
-void EventSimulator::printRow(Table& table, Time time) {
-    if (printedRows_++ % kRowsPerHeader == 0) table.printHeader();
-    table.printValues(time);
+bool EventSimulator::printRow(Table& table, Time time) {
+    if (printedRows_++ % kRowsPerHeader == 0 && !table.printHeader()) return false;
+    return table.printValues(time);
 }
 
 void EventSimulator::printEvery(const std::vector<std::string>& inputs, const std::vector<std::string>& outputs,
@@ -166,14 +166,18 @@ void EventSimulator::printEvery(const std::vector<std::string>& inputs, const st
     if (step < 1) throw Error("Error: a table needs a time step above 0, not %d.", step);
     Table table = makeTable(inputs, outputs, nets);
     printedRows_ = 0;
-    for (std::int64_t stop = 0; stop <= endTime_; stop += step) printRow(table, static_cast<Time>(stop));
+    for (std::int64_t stop = 0; stop <= endTime_; stop += step) {
+        if (!printRow(table, static_cast<Time>(stop))) return;
+    }
 }
 
 void EventSimulator::printAt(const std::vector<std::string>& inputs, const std::vector<std::string>& outputs,
                              const std::vector<std::string>& nets, const std::vector<Time>& times) {
     Table table = makeTable(inputs, outputs, nets);
     printedRows_ = 0;
-    for (const Time time : times) printRow(table, time);
+    for (const Time time : times) {
+        if (!printRow(table, time)) return;
+    }
 }
 
 }  // namespace tarnsim

@@ -52,7 +52,8 @@ public:
     void setAbortFlag(volatile char* flag) { abortFlag_ = flag; }
 
     // The table of results, on the standard output: a line for each stop, with the ports named by `inputs` and
-    // `outputs` (paths through the hierarchy), then the nets. Raises an Error for a name that isn't there.
+    // `outputs` (paths through the hierarchy), then the nets. Raises an Error for a name that isn't there. Ends with
+    // the first line that can't be written, which the stream remembers (`ferror`).
 
     /// Stops at 0, `step`, 2 * `step` and so on, up to the end of the run.
     void printEvery(const std::vector<std::string>& inputs, const std::vector<std::string>& outputs,
@@ -66,7 +67,8 @@ private:
     void workThrough(Time time);
     Table makeTable(const std::vector<std::string>& inputs, const std::vector<std::string>& outputs,
                     const std::vector<std::string>& nets) const;
-    void printRow(Table& table, Time time);
+    /// False if it can't be written.
+    bool printRow(Table& table, Time time);
 
     Circuit* circuit_;  ///< not owned
     EventDirectory events_;

@@ -127,7 +127,7 @@ private:
         }
 
         void remove(const T* item) {
-            if (takeAll(*item, item->getName()).empty()) return;
+            if (!drop(*item)) return;
             const_cast<T*>(item)->stopWatchingName(this);
         }
 
@@ -163,14 +163,16 @@ private:
         }
 
         void nameChanged(BaseObject& object, const std::string& formerName) override {
-            for (Slot& slot : takeAll(object, formerName)) {
+            std::vector<Slot> renamed;
+            takeAll(object, formerName, [&](const Slot& slot) { renamed.push_back(slot); });
+            for (Slot& slot : renamed) {
                 slot.hash = hashOf(object.getName());
                 put(slot);
             }
         }
 
         void objectDestroyed(BaseObject& object) override {
-            if (takeAll(object, object.getName()).empty()) return;
+            if (!drop(object)) return;
             std::erase_if(list_.items_, [&](const BaseObject* each) { return each == &object; });
         }
 
@@ -212,17 +214,23 @@ private:
             return at;
         }
 
-        std::vector<Slot> takeAll(const BaseObject& object, std::string_view name) {
-            std::vector<Slot> taken;
+        /// Takes the entries of the object out and calls `visit` for each.
+        template <class Visitor>
+        void takeAll(const BaseObject& object, std::string_view name, Visitor visit) {
             for (std::size_t at = home(hashOf(name)); slots_[at].object != nullptr;) {
                 if (slots_[at].object == &object) {
-                    taken.push_back(slots_[at]);
+                    visit(slots_[at]);
                     vacate(at);
                 } else {
                     at = next(at);
                 }
             }
-            return taken;
+        }
+        /// False if it had none. Asks for no memory: this is how objects die, also for want of it.
+        bool drop(const BaseObject& object) {
+            bool isDropped = false;
+            takeAll(object, object.getName(), [&](const Slot& /*slot*/) { isDropped = true; });
+            return isDropped;
         }
         /// What stands behind the slot moves up as far as it is found from its home.
         void vacate(std::size_t hole) {

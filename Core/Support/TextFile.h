@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <istream>
 #include <memory>
 #include <optional>
 #include <string>
@@ -22,7 +21,7 @@ struct FileIdentity {
 };
 
 /// The first `most` bytes of a file, or all if there are fewer; nothing if it isn't there, is no file (a directory, a
-/// pipe), or can't be read.
+/// pipe), or can't be read. Raises an Error if somebody changes it meanwhile.
 std::optional<std::string> readBytes(const std::string& path, std::size_t most = std::string::npos);
 
 /// A text file, read line by line.
@@ -32,16 +31,25 @@ public:
     explicit TextFile(const std::string& path);
     /// Stands for a file of that path with these contents; the disk isn't asked.
     TextFile(const std::string& path, const std::string& contents);
+    ~TextFile();
 
-    bool isOpen() const { return stream_ != nullptr; }
+    bool isOpen() const { return isOpen_; }
 
     /// The next line without its line feed; a last line without one counts. False at the end. Raises an Error that
-    /// names the file if the system can't read on.
+    /// names the file if the system can't read on, or if somebody changed the file since it was opened: half a file may
+    /// look like a whole one.
     bool readLine(std::string& line);
 
 private:
+    class Source;
+
+    bool readOn();
+
     std::string path_;
-    std::unique_ptr<std::istream> stream_;  ///< null if the file can't be opened
+    std::unique_ptr<Source> source_;  ///< null at the end of the file
+    bool isOpen_;
+    std::string block_;         ///< what was read last
+    std::size_t position_ = 0;  ///< in the block, of the next line
 };
 
 }  // namespace tarnsim

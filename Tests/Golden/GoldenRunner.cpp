@@ -11,7 +11,9 @@
 //
 // `--approve` writes what the program does into these files, for a person to review as a diff. `--filter=TEXT` runs the
 // cases with TEXT in their path, `--skip=TEXT` leaves those out, `--shard=I/N` runs every Nth case from the Ith on
-// (counted from 0), `--program=FILE` and `--cases=FOLDER` say what to run.
+// (counted from 0), `--program=FILE` and `--cases=FOLDER` say what to run. `--under=COMMAND` starts the program by a
+// command that gets it and its arguments. With `--and-under=COMMAND` too each case runs twice and must do the same
+// under both, whatever its files say.
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -51,6 +53,8 @@ struct Options {
     fs::path cases;
     std::string filter;
     std::string skip;
+    std::string under;
+    std::string andUnder;
     std::size_t shard = 0;
     std::size_t shards = 1;
     bool approve = false;
@@ -94,23 +98,25 @@ Files filesOf(const fs::path& folder) {
     return files;
 }
 
-Outcome startProgram(const fs::path& folder, const fs::path& program, const fs::path& scratch) {
+Outcome startProgram(const fs::path& folder, const fs::path& program, const std::string& under,
+                     const fs::path& scratch) {
     const fs::path output = scratch / "out";
     const fs::path errors = scratch / "err";
     // The shell's own word about an aborted program goes nowhere.
     const fs::path directory = folder / trimmedLine(readAll(folder / "directory"));
-    const std::string command = "cd " + quoted(directory) + " && exec 2>/dev/null; " + quoted(program) + " " +
-                                trimmedLine(readAll(folder / "args")) + " </dev/null >" + quoted(output) + " 2>" +
+    const std::string command = "cd " + quoted(directory) + " && exec 2>/dev/null; " + under + " " + quoted(program) +
+                                " " + trimmedLine(readAll(folder / "args")) + " </dev/null >" + quoted(output) + " 2>" +
                                 quoted(errors);
     const int status = std::system(command.c_str());
     return {readAll(output), readAll(errors), WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), {}};
 }
 
-Outcome runCase(const fs::path& folder, const fs::path& program, const fs::path& scratch) {
-    if (!hasOwnProgram(folder)) return startProgram(folder, program, scratch);
+Outcome runCase(const fs::path& folder, const fs::path& program, const std::string& under, const fs::path& scratch) {
+    if (!hasOwnProgram(folder)) return startProgram(folder, program, under, scratch);
     const fs::path copy = scratch / "case";
     fs::copy(folder, copy, fs::copy_options::recursive | fs::copy_options::copy_symlinks);
-    Outcome outcome = startProgram(copy, program.parent_path() / trimmedLine(readAll(folder / "program")), scratch);
+    Outcome outcome =
+        startProgram(copy, program.parent_path() / trimmedLine(readAll(folder / "program")), under, scratch);
     outcome.files = filesOf(copy);
     fs::remove_all(copy);
     return outcome;
@@ -146,8 +152,7 @@ void showFiles(const Files& expected, const Files& actual) {
     }
 }
 
-bool check(const fs::path& folder, const Outcome& actual) {
-    Outcome expected = expectedOf(folder);
+bool check(const fs::path& folder, Outcome expected, const Outcome& actual) {
     if (expected.errors == kAnything) expected.errors = actual.errors;
     if (expected.output == actual.output && expected.errors == actual.errors && expected.status == actual.status &&
         expected.files == actual.files)
@@ -210,7 +215,9 @@ Options readOptions(int argc, char** argv) {
             options.shards = std::stoul(value.substr(value.find('/') + 1));
         } else if (argument == "--approve") {
             options.approve = true;
-        } else if (!takeValue(argument, "--filter=", options.filter) && !takeValue(argument, "--skip=", options.skip)) {
+        } else if (!takeValue(argument, "--filter=", options.filter) && !takeValue(argument, "--skip=", options.skip) &&
+                   !takeValue(argument, "--under=", options.under) &&
+                   !takeValue(argument, "--and-under=", options.andUnder)) {
             std::cerr << "Unknown argument: " << argument << "\n";
             std::exit(2);
         }
@@ -241,9 +248,11 @@ int main(int argc, char** argv) {
         const fs::path& folder = folders[i];
         if (folder.string().find(options.filter) == std::string::npos) continue;
         if (!options.skip.empty() && folder.string().find(options.skip) != std::string::npos) continue;
-        const Outcome actual = runCase(folder, options.program, scratch);
+        const Outcome actual = runCase(folder, options.program, options.under, scratch);
         if (options.approve) approve(folder, actual);
-        check(folder, actual) ? ++passed : ++failed;
+        const Outcome expected =
+            options.andUnder.empty() ? expectedOf(folder) : runCase(folder, options.program, options.andUnder, scratch);
+        check(folder, expected, actual) ? ++passed : ++failed;
     }
     fs::remove_all(scratch);
     if (folders.size() != kCaseCount) {

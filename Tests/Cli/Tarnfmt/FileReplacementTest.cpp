@@ -11,6 +11,7 @@
 #include <cstdlib>
 
 #include "Core/Support/TextFile.h"
+#include "Tests/Support/BusyWriter.h"
 #include "Tests/Support/TestSupport.h"
 
 namespace tarnsim {
@@ -105,6 +106,13 @@ TEST(FileReplacement, OfALinkReplacesTheFileBehindIt) {
     EXPECT_EQ(fs::read_symlink(folder.path("links/one")), "../deep/file");
     EXPECT_EQ(fs::read_symlink(folder.path("links/two")), "one");
     EXPECT_EQ(filesIn(folder.path("links")), 2U);
+}
+
+TEST(FileReplacement, RefusesAFileThatChangesWhileItIsRead) {
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a", "x");
+    const BusyWriter writer(path);
+    EXPECT_EQ(errorOfTries(1'000'000, [&] { readSnapshot(path); }), "was changed by somebody else meanwhile");
 }
 
 TEST(FileReplacement, RefusesAFileThatWasChangedMeanwhile) {

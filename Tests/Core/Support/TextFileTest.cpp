@@ -1,10 +1,14 @@
 #include "Core/Support/TextFile.h"
 
+#include <sys/stat.h>
+
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <optional>
 #include <vector>
 
+#include "Tests/Support/BusyWriter.h"
 #include "Tests/Support/RandomText.h"
 #include "Tests/Support/TestSupport.h"
 
@@ -74,6 +78,69 @@ TEST(TextFile, NamesTheFileThatTheSystemCannotReadOn) {
     ASSERT_TRUE(file.isOpen());
     std::string line;
     EXPECT_EQ(errorOf([&] { file.readLine(line); }), "Error: cannot read file '/proc/self/mem'.");
+}
+
+/// More than is read at once.
+std::string longText() {
+    std::string text;
+    while (text.size() < kMegabytes) text += "a line\n";
+    return text;
+}
+
+/// The message when `change` happens to a file behind its first line.
+std::string errorAfter(const std::function<void(const std::string& path)>& change) {
+    const TemporaryFolder folder;
+    const std::string path = folder.write("file", longText());
+    TextFile file(path);
+    std::string line;
+    EXPECT_TRUE(file.readLine(line));
+    change(path);
+    std::string message = errorOf([&] {
+        while (file.readLine(line)) EXPECT_EQ(line, "a line");
+    });
+    if (const std::size_t at = message.find(path); at != std::string::npos) message.replace(at, path.size(), "PATH");
+    return message;
+}
+
+TEST(TextFile, RefusesAFileThatChangesWhileItIsRead) {
+    const std::string refusal = "Error: file 'PATH' was changed while it was read.";
+    namespace fs = std::filesystem;
+    EXPECT_EQ(errorAfter([](const std::string& path) { fs::resize_file(path, 0); }), refusal);
+    EXPECT_EQ(errorAfter([](const std::string& path) { fs::resize_file(path, 7 * 20'000); }), refusal);
+    EXPECT_EQ(errorAfter([](const std::string& path) { std::ofstream(path, std::ios::app) << "a line\n"; }), refusal);
+    EXPECT_EQ(errorAfter([](const std::string& path) {
+                  fs::last_write_time(path, fs::last_write_time(path) + std::chrono::seconds(1));  // of the same size
+              }),
+              refusal);
+}
+
+TEST(TextFile, ReadsAFileToItsEndThatVanishes) {
+    namespace fs = std::filesystem;
+    EXPECT_EQ(errorAfter([](const std::string& path) { fs::remove(path); }), "(no Error)");
+    EXPECT_EQ(errorAfter([](const std::string& path) {
+                  fs::rename(path, path + ".old");
+                  fs::create_directory(path);
+              }),
+              "(no Error)");
+    EXPECT_EQ(errorAfter([](const std::string& path) {
+                  std::ofstream(path + ".new") << "another line";
+                  fs::rename(path + ".new", path);
+              }),
+              "(no Error)");
+}
+
+TEST(ReadBytes, RefusesAFileThatChangesWhileItIsRead) {
+    const TemporaryFolder folder;
+    const std::string path = folder.write("file", "x");
+    const BusyWriter writer(path);
+    EXPECT_EQ(errorOfTries(1'000'000, [&] { readBytes(path); }),
+              "Error: file '" + path + "' was changed while it was read.");
+}
+
+TEST(ReadBytes, DoesNotWaitForAPipe) {
+    const TemporaryFolder folder;
+    ASSERT_EQ(mkfifo(folder.path("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(readBytes(folder.path("pipe")), std::nullopt);
 }
 
 TEST(ReadBytes, GivesAFileAsItIs) {
