@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <limits>
 #include <sstream>
 
 #include "Core/Support/Error.h"
@@ -12,6 +13,10 @@
 namespace tarnsim {
 
 namespace {
+
+/// What goes on for ever, as /dev/zero does, mustn't take all memory; and a cell of that many hexadecimal digits has
+/// bits that 32 bits can number.
+constexpr std::size_t kMostInLine = std::size_t{256} << 20U;
 
 bool isDirectory(const std::string& path) {
     struct stat status = {};
@@ -58,10 +63,28 @@ TextFile::TextFile(const std::string& path, const std::string& contents)
     : path_(path), stream_(std::make_unique<std::istringstream>(contents)) {}
 
 bool TextFile::readLine(std::string& line) {
-    if (!isOpen()) return false;
-    if (std::getline(*stream_, line)) return true;
-    if (stream_->bad()) throw Error("Error: cannot read file '%s'.", path_.c_str());
-    return false;
+    line.clear();
+    if (!isOpen() || !stream_->good()) return false;
+    std::array<char, 4096> part;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
+    while (true) {
+        stream_->getline(part.data(), part.size());
+        if (stream_->bad()) throw Error("Error: cannot read file '%s'.", path_.c_str());
+        const auto count = static_cast<std::size_t>(stream_->gcount());
+        const bool hasLineFeed = stream_->good();
+        line.append(part.data(), hasLineFeed ? count - 1 : count);  // a line feed counts and isn't stored
+        if (hasLineFeed || stream_->eof()) break;
+        stream_->clear();  // the part is full, and the line goes on
+        if (line.size() > kMostInLine) {
+            throw Error("Error: line %d of file '%s' has more than %d characters.", lineCount_ + 1, path_.c_str(),
+                        static_cast<int>(kMostInLine));
+        }
+    }
+    if (stream_->eof() && line.empty()) return false;
+    if (lineCount_ == std::numeric_limits<int>::max()) {
+        throw Error("Error: file '%s' has more than %d lines.", path_.c_str(), lineCount_);
+    }
+    ++lineCount_;
+    return true;
 }
 
 }  // namespace tarnsim

@@ -36,12 +36,13 @@ public:
     bool isOpen() const { return stream_ != nullptr; }
 
     /// The next line without its line feed; a last line without one counts. False at the end. Raises an Error that
-    /// names the file if the system can't read on.
+    /// names the file if the system can't read on, and for a line of more than 256 MiB.
     bool readLine(std::string& line);
 
 private:
     std::string path_;
     std::unique_ptr<std::istream> stream_;  ///< null if the file can't be opened
+    int lineCount_ = 0;                     ///< so far
 };
 
 }  // namespace tarnsim
