@@ -23,6 +23,11 @@ std::string inDirectoryOf(const std::string& file, const std::string& name) {
     return slash == std::string::npos ? name : file.substr(0, slash + 1) + name;
 }
 
+// Bodies are built, copied and freed level by level on the stack, files read likewise; both fit into a small one. No
+// board is that deep, and each file is open while those that it imports are read: a process has 1,024 in most places.
+constexpr int kDeepestBody = 1000;
+constexpr std::size_t kDeepestImport = 500;
+
 std::size_t countPorts(std::span<const NetLine> nets) {
     std::size_t count = 0;
     for (const NetLine& net : nets) count += net.ports.size();
@@ -45,7 +50,7 @@ CircuitSpec::CircuitSpec(const std::string& fileName, const std::string& content
 }
 
 CircuitSpec::CircuitSpec(CircuitSpec* parent, const std::string& name)
-    : name_(name), lineNumber_(parent->lineNumber_), current_(this), parentSpec_(parent) {}
+    : name_(name), lineNumber_(parent->lineNumber_), current_(this), parentSpec_(parent), depth_(parent->depth_ + 1) {}
 
 void CircuitSpec::addCommentLine(const std::string& text) {
     current_->pendingComment_ += text + "\n";
@@ -103,7 +108,9 @@ void CircuitSpec::handleStatement(const std::string& line) {
     const std::string& keyword = fields[0];
     if (keyword == "Import") {
         flushComment();
-        includeFile(relativeToCurrent(quotedValue(line)));
+        const std::string path = relativeToCurrent(quotedValue(line));
+        checkImport(path);
+        includeFile(path);
     } else if (keyword == "ImportPath") {
         flushComment();
         importPaths.push_back(quotedValue(line));
@@ -147,6 +154,7 @@ void CircuitSpec::handleCircuit(const Fields& fields, const std::string& line) {
     } else if (fields[2].front() == '"') {
         const std::string file = quotedValue(line);
         const std::string path = relativeToCurrent(file);
+        checkImport(path);
         pushBody(fields[1], file);
         CircuitSpec* body = current_;
         body->isReadingOwnFile_ = true;
@@ -175,19 +183,30 @@ void CircuitSpec::handleClosingBrace(const Fields& fields) {
 }
 
 void CircuitSpec::pushBody(const std::string& name, const std::string& file) {
+    if (current_->depth_ == kDeepestBody) {
+        throw Error("Error in %s:%d: Circuits are nested more than %d deep.", current_->getFileName().c_str(),
+                    current_->lineNumber_, kDeepestBody);
+    }
     auto body = std::make_unique<CircuitSpec>(current_, name);
     body->fileName_ = file;
     if (file.empty()) body->sourceFile_ = fileBeingRead_;
     current_ = current_->subSpecs.emplace_back(std::move(body)).get();
 }
 
-void CircuitSpec::includeFile(const std::string& path) {
-    CircuitSpec* body = current_;
+void CircuitSpec::checkImport(const std::string& path) const {
     // Nothing in a file decides whether it is imported, so one that comes round to itself never ends.
     if (std::ranges::find(filesBeingRead_, FileIdentity(resolveFile(path))) != filesBeingRead_.end()) {
-        throw Error("Error in %s:%d: '%s' is being read already, it imports itself.", body->getFileName().c_str(),
-                    body->lineNumber_, path.c_str());
+        throw Error("Error in %s:%d: '%s' is being read already, it imports itself.", current_->getFileName().c_str(),
+                    current_->lineNumber_, path.c_str());
     }
+    if (filesBeingRead_.size() > kDeepestImport) {
+        throw Error("Error in %s:%d: Imports are nested more than %d deep.", current_->getFileName().c_str(),
+                    current_->lineNumber_, static_cast<int>(kDeepestImport));
+    }
+}
+
+void CircuitSpec::includeFile(const std::string& path) {
+    CircuitSpec* body = current_;
     const std::string fileName = std::exchange(body->fileName_, path);
     const int lineNumber = std::exchange(body->lineNumber_, 0);
     parseFile(path);

@@ -16,7 +16,8 @@ namespace tarnsim {
 /// object reads the file with all that it imports; a circuit is then built from it (Circuit::setSpec). Nothing but
 /// files is looked up here.
 ///
-/// The grammar is told in Docs/Formats.md. All refusals are Errors, out of the constructor.
+/// The grammar is told in Docs/Formats.md, how deep files and bodies may be nested in Docs/Limits.md. All refusals are
+/// Errors, out of the constructor.
 class CircuitSpec : public FileParser {
 public:
     /// Reads the file; its path is also the circuit's name.
@@ -81,6 +82,8 @@ private:
     void addRecord(std::vector<Record> CircuitSpec::*records, const Fields& fields);
     void flushComment();
     void pushBody(const std::string& name, const std::string& file);
+    /// Before the statement that names the file does anything.
+    void checkImport(const std::string& path) const;
     void includeFile(const std::string& path);
     std::string quotedValue(const std::string& line) const;
     std::string relativeToCurrent(const std::string& name) const;
@@ -94,6 +97,7 @@ private:
     int lineNumber_ = 0;  ///< an inline body counts on from where it opens; the body around it doesn't count meanwhile
     CircuitSpec* current_;     ///< of the top-level object: the body that statements go to
     CircuitSpec* parentSpec_;  ///< not owned; null at the top level
+    int depth_ = 0;            ///< how many bodies are around it
     std::string pendingComment_;
     std::vector<FileIdentity> filesBeingRead_;  ///< of the top-level object, outermost first
     std::string fileBeingRead_;                 ///< of the top-level object: where the innermost of them was found

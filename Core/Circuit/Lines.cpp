@@ -13,6 +13,9 @@ namespace tarnsim {
 
 namespace {
 
+/// Of one statement: a slip of the keyboard in the count of an array mustn't take all memory.
+constexpr std::size_t kMostUnits = 16'000'000;
+
 /// The first text that stands further ahead, too; null if there is none.
 const std::string* firstRepeated(const std::vector<std::string>& texts) {
     constexpr std::size_t kFew = 16;
@@ -89,14 +92,20 @@ UnitLine::UnitLine(const std::vector<std::string>& fields, int number, const std
                     fileName.c_str());
     }
     type = fields[1];
+    const auto makeRoomFor = [this](std::size_t count) {
+        if (names.size() + count > kMostUnits) {
+            throw Error("Error on line %d, in file %s: Unit takes at most %d units.", lineNumber, fileName.c_str(),
+                        static_cast<int>(kMostUnits));
+        }
+        // Left to itself the list of a large array would grow to double its size.
+        if (names.empty()) names.reserve(count);
+    };
     for (auto field = fields.begin() + 2; field != fields.end(); ++field) {
         const auto array = matchArrayName(*field);
-        if (!array) {
-            names.push_back(*field);
-            continue;
-        }
-        const int count = std::stoi(std::string(array->count));
-        for (int i = 0; i < count; ++i) names.push_back(std::string(array->prefix) + format("[%d]", i));
+        const int count = array ? std::stoi(std::string(array->count)) : 1;
+        makeRoomFor(static_cast<std::size_t>(count));
+        if (!array) names.push_back(*field);
+        for (int i = 0; array && i < count; ++i) names.push_back(std::string(array->prefix) + format("[%d]", i));
     }
 }
 

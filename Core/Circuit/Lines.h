@@ -65,7 +65,8 @@ public:
     std::string size;       ///< a decimal number, perhaps with a sign
 };
 
-/// `Unit <type> <instance>...` An instance `name[n]` stands for `name[0]` to `name[n-1]`.
+/// `Unit <type> <instance>...` An instance `name[n]` stands for `name[0]` to `name[n-1]`. All together are 16 million
+/// at most.
 class UnitLine : public Line {
 public:
     UnitLine(const std::vector<std::string>& fields, int number, const std::string& file);

@@ -23,6 +23,11 @@ constexpr IDT7132LA::Timing kDevices[] = {
 };
 // clang-format on
 
+/// `span` before `time`.
+Time ago(Time time, Time span) {
+    return earlier(time, static_cast<std::uint32_t>(span));
+}
+
 }  // namespace
 
 IDT7132LA::Side::Side(IDT7132LA& chip, const char* name, const std::string& suffix)
@@ -112,9 +117,9 @@ void IDT7132LA::evaluateTagged(Time time, std::uint64_t tag) {
 
 void IDT7132LA::addressStep(Side& side, Time time) {
     // The output hold has run out.
-    if (side.A.changedAt(time - timing_->holdTime)) side.setData(Value("UUUUUUUU"), time);
-    const bool mayWrite = side.RW.stableAt(time - timing_->writePulse, time, Value('L', 1));
-    const bool mayRead = side.RW.stableAt(time - timing_->accessTime, time, Value('H', 1));
+    if (side.A.changedAt(ago(time, timing_->holdTime))) side.setData(Value("UUUUUUUU"), time);
+    const bool mayWrite = side.RW.stableAt(ago(time, timing_->writePulse), time, Value('L', 1));
+    const bool mayRead = side.RW.stableAt(ago(time, timing_->accessTime), time, Value('H', 1));
     arbitrate(time);
     if (mayRead) {
         checkRead(side, time);
@@ -126,8 +131,8 @@ void IDT7132LA::addressStep(Side& side, Time time) {
 void IDT7132LA::enableStep(Side& side, Time time) {
     const auto becameAgo = [&](Time span, char level) {
         const auto disabled = [&](Time at) { return Logic::Or(side.OE.get(at), side.CE.get(at)); };
-        const Time change = time - span;
-        return disabled(change - 1) != level && disabled(change) == level;
+        const Time change = ago(time, span);
+        return disabled(earlier(change, 1)) != level && disabled(change) == level;
     };
     if (becameAgo(timing_->lowZTime, 'L')) side.setEnable('U', time);
     if (becameAgo(timing_->enableTime, 'L')) side.setEnable('L', time);
@@ -162,7 +167,7 @@ void IDT7132LA::arbitrate(Time time) {
 }
 
 void IDT7132LA::checkWrite(Side& side, Time time) {
-    const Time begin = time - timing_->addressWindow;
+    const Time begin = ago(time, timing_->addressWindow);
     const Value address = side.A.get(begin);
     if (isConflictAt(begin)) {
         const TLog line("Warning: access collision in memory %s, at address %s and t=%d", getName().c_str(),
@@ -170,7 +175,7 @@ void IDT7132LA::checkWrite(Side& side, Time time) {
         return;
     }
     const bool isWriting = side.A.stableBetween(begin, time) &&
-                           side.RW.stableAt(time - timing_->writePulse, time, Value('L', 1)) &&
+                           side.RW.stableAt(ago(time, timing_->writePulse), time, Value('L', 1)) &&
                            side.CE.stableAt(begin, time, Value('L', 1));
     if (!isWriting) return;
     if (!address.isDefined()) {
@@ -182,11 +187,11 @@ void IDT7132LA::checkWrite(Side& side, Time time) {
 }
 
 void IDT7132LA::checkRead(Side& side, Time time) {
-    const Time begin = time - timing_->accessTime;
+    const Time begin = ago(time, timing_->accessTime);
     const Value low('L', 1);
     const bool isReading = side.A.stableBetween(begin, time) && side.RW.stableAt(begin, time, Value('H', 1)) &&
                            side.CE.stableAt(begin, time, low) &&
-                           side.CE.stableAt(time - timing_->enableTime, time, low);
+                           side.CE.stableAt(ago(time, timing_->enableTime), time, low);
     if (!isReading) return;
     const Value address = side.A.get(begin);
     side.setData(address.isDefined() ? read(address.toNumber() & (kSize - 1), begin) : Value(8), time);

@@ -236,10 +236,14 @@ void Pin::holdBy(HeldPin* holder) {
 }
 
 void Pin::pulse(Time period, int count, Time start) {
-    Time time = start;
-    for (int i = 0; i < count; ++i) {
-        set(Value('L', 1), time);
-        set(Value('H', 1), time + period / 2);
+    // Flanks beyond all time never come.
+    const auto setAt = [this](char letter, std::int64_t time) {
+        if (std::in_range<Time>(time)) set(Value(letter, 1), static_cast<Time>(time));
+    };
+    std::int64_t time = start;
+    for (int i = 0; i < count && std::in_range<Time>(time); ++i) {
+        setAt('L', time);
+        setAt('H', time + period / 2);
         time += period;
     }
 }

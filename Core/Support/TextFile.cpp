@@ -6,12 +6,17 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <limits>
 
 #include "Core/Support/Error.h"
 
 namespace tarnsim {
 
 namespace {
+
+/// What goes on for ever, as /dev/zero does, mustn't take all memory; and a cell of that many hexadecimal digits has
+/// bits that 32 bits can number.
+constexpr std::size_t kMostInLine = std::size_t{256} << 20U;
 
 constexpr std::size_t kBlockSize = 65536;
 
@@ -125,13 +130,23 @@ bool TextFile::readOn() {
 
 bool TextFile::readLine(std::string& line) {
     line.clear();
+    bool hasLineFeed = false;
     do {
         const std::size_t end = block_.find('\n', position_);
+        hasLineFeed = end != std::string::npos;
         line.append(block_, position_, end - position_);
         position_ = end + 1;
-        if (end != std::string::npos) return true;
-    } while (readOn());
-    return !line.empty();
+        if (line.size() > kMostInLine) {
+            throw Error("Error: line %d of file '%s' has more than %d characters.", lineCount_ + 1, path_.c_str(),
+                        static_cast<int>(kMostInLine));
+        }
+    } while (!hasLineFeed && readOn());
+    if (!hasLineFeed && line.empty()) return false;
+    if (lineCount_ == std::numeric_limits<int>::max()) {
+        throw Error("Error: file '%s' has more than %d lines.", path_.c_str(), lineCount_);
+    }
+    ++lineCount_;
+    return true;
 }
 
 }  // namespace tarnsim

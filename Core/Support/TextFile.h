@@ -36,8 +36,8 @@ public:
     bool isOpen() const { return isOpen_; }
 
     /// The next line without its line feed; a last line without one counts. False at the end. Raises an Error that
-    /// names the file if the system can't read on, or if somebody changed the file since it was opened: half a file may
-    /// look like a whole one.
+    /// names the file if the system can't read on, for a line of more than 256 MiB, and if somebody changed the file
+    /// since it was opened: half a file may look like a whole one.
     bool readLine(std::string& line);
 
 private:
@@ -50,6 +50,7 @@ private:
     bool isOpen_;
     std::string block_;         ///< what was read last
     std::size_t position_ = 0;  ///< in the block, of the next line
+    int lineCount_ = 0;         ///< so far
 };
 
 }  // namespace tarnsim

@@ -1,5 +1,10 @@
 #include "Core/TestVectors/TestSequence.h"
 
+#include <cstdint>
+#include <span>
+#include <utility>
+
+#include "Core/Support/Error.h"
 #include "Core/TestVectors/ExpectedOutputs.h"
 #include "Core/TestVectors/TestSequenceFileReader.h"
 
@@ -51,9 +56,15 @@ void TestSequence::removeVector(int i) {
 }
 
 void TestSequence::shiftFrom(int i, Time delta) {
-    for (auto vector = vectors_.begin() + i; vector != vectors_.end(); ++vector) {
-        (*vector)->setTime((*vector)->time() + delta);
+    const auto moved = [delta](const std::unique_ptr<TestVector>& vector) {
+        return std::int64_t{vector->time()} + delta;
+    };
+    const std::span shifted(vectors_.begin() + i, vectors_.end());
+    for (const auto& vector : shifted) {
+        if (std::in_range<Time>(moved(vector))) continue;
+        throw Error("Error: the vector at %d can't be shifted by %d: there is no such time.", vector->time(), delta);
     }
+    for (const auto& vector : shifted) vector->setTime(static_cast<Time>(moved(vector)));
 }
 
 void TestSequence::insertOption(int i, ComponentOptions* option) {

@@ -49,7 +49,8 @@ public:
     /// Also gives the vector this sequence's header.
     void insertVector(int i, TestVector* vector);
     void removeVector(int i);
-    /// Moves vector `i` and all behind it by `delta` ns.
+    /// Moves vector `i` and all behind it by `delta` ns. Raises an Error, and moves none, if one of them would leave
+    /// the range of times.
     void shiftFrom(int i, Time delta);
     /// 0 without vectors.
     Time lastTime() const { return vectors_.empty() ? 0 : vectors_.back()->time(); }

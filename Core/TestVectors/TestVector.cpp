@@ -132,7 +132,7 @@ private:
     const std::uint32_t* words_;
 };
 
-TestVector::TestVector(std::uint32_t time) : time_(static_cast<Time>(time)) {}
+TestVector::TestVector(std::uint32_t time) : time_(static_cast<Time>(std::min<std::uint32_t>(time, kLatestTime))) {}
 
 TestVector::TestVector(const std::vector<std::string>& words, int lineNumber, TestVectorHeader* header,
                        const std::string& comment)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -25,7 +26,7 @@ class TestVectorHeader;
 /// vector stand in one block of letters, until somebody asks for the lists or changes them.
 class TestVector : public CommentableObject {
 public:
-    /// For tables made by code: no cells and no header yet.
+    /// For tables made by code: no cells and no header yet. Beyond kLatestTime there is only that.
     explicit TestVector(std::uint32_t time);
     /// Parses the words of a line. `header` isn't owned. Raises an Error that names the line.
     TestVector(std::span<const std::string_view> words, int lineNumber, TestVectorHeader* header,
@@ -37,7 +38,11 @@ public:
     void setTime(Time time) { time_ = time; }
     Time deltaTime() const { return deltaTime_; }
     void setDeltaTime(Time deltaTime) { deltaTime_ = deltaTime; }
-    Time endTime() const { return time_ + deltaTime_; }
+    /// Never beyond kLatestTime, whatever code has set the two to.
+    Time endTime() const {
+        return static_cast<Time>(
+            std::clamp<std::int64_t>(std::int64_t{time_} + deltaTime_, kEarliestTime, kLatestTime));
+    }
     int getLineNumber() const { return lineNumber_; }
     TestVectorHeader* getHeader() const { return header_; }
     void setHeader(TestVectorHeader* header) { header_ = header; }

@@ -223,6 +223,13 @@ TEST(CircuitFileOfAnInlineBody, IsLookedForBesideTheImportedFileThatTheBodyStand
     EXPECT_TRUE(spec.subSpecs[0]->isInline()) << "after the import as before";
 }
 
+TEST(CircuitFile, OfACircuitThatComesRoundToItselfIsReportedWhereItIsNamed) {
+    const Workplace here;
+    here.write("board.nlx", "Import \"part.nlx\"\n");
+    here.write("part.nlx", "\n\nCircuit c \"board.nlx\"\n");
+    EXPECT_EQ(errorOfBoard(), "Error in part.nlx:3: 'board.nlx' is being read already, it imports itself.");
+}
+
 TEST(CircuitFile, MayCloseABodyOnlyIfOneIsOpenInIt) {
     const Workplace here;
     here.write("part.nlx", "\nUnit And a\n}\n");

@@ -220,6 +220,15 @@ TEST(UnitLine, NumbersAnArrayOfMoreThanTenInDecimal) {
     EXPECT_EQ(line.names[11], "g[11]");
 }
 
+TEST(UnitLine, MakesAMillionUnitsAndAtMost16) {
+    EXPECT_EQ(read<UnitLine>("Unit And g[500000] h[500000]").names.size(), 1'000'000U);
+    for (const std::string names : {"g[16000001]", "g[2147483647]", "g[2] h[15999999]", "g h[16000000]"}) {
+        EXPECT_TRUE(
+            errorOf([&] { read<UnitLine>("Unit And " + names); }).ends_with(": Unit takes at most 16000000 units."))
+            << names;
+    }
+}
+
 TEST(UnitLine, LeavesAnArrayCountBeyond32BitsToTheStandardException) {
     for (const std::string count : {"2147483648", "99999999999999999999999"}) {
         EXPECT_EQ(standardExceptionOf<std::out_of_range>([&] { read<UnitLine>("Unit And g[" + count + "]"); }), "stoi");

@@ -238,6 +238,17 @@ TEST(Pin, APulseOfNoPeriodsSetsNothing) {
     EXPECT_EQ(pin.recordCount(), 0U);
 }
 
+TEST(Pin, FlanksOfAPulseBeyondAllTimeNeverCome) {
+    Pin pin(Direction::Input, "clock");
+    pin.pulse(10, 2147483647, kLatestTime - 12);
+    EXPECT_EQ(pin.recordCount(), 3U);
+    const std::pair<Time, const char*> expected[] = {{kEarliestTime, "U"},    {0, "U"},
+                                                     {kLatestTime - 13, "U"}, {kLatestTime - 12, "L"},
+                                                     {kLatestTime - 7, "H"},  {kLatestTime - 2, "L"},
+                                                     {kLatestTime, "L"}};
+    for (const auto& [time, letter] : expected) EXPECT_EQ(pin.get(time), letter) << time;
+}
+
 TEST(Pin, APulseReachesTheNet) {
     Net net("n", 1);
     Pin pin(Direction::Output, "clock");

@@ -43,6 +43,22 @@ TEST(TextFile, ReadsALineOfMegabytes) {
     EXPECT_EQ(linesOf(folder.write("file", line + "\nb\n")), (std::vector<std::string>{line, "b"}));
 }
 
+TEST(TextFile, ReadsLinesOfAnyLength) {
+    const TemporaryFolder folder;
+    std::string text;
+    std::vector<std::string> lines;
+    for (std::size_t length = 4090; length < 4100; ++length) {
+        for (const std::size_t size : {length, 2 * length}) {
+            lines.push_back(std::string(size, static_cast<char>('a' + length % 26)));
+            text += lines.back() + "\n";
+        }
+        const std::string path = folder.write("file", text);
+        EXPECT_EQ(linesOf(path), lines) << length;
+        folder.write("file", text.substr(0, text.size() - 1));
+        EXPECT_EQ(linesOf(path), lines) << length << " without the last line feed";
+    }
+}
+
 TEST(TextFile, StaysAtTheEnd) {
     const TemporaryFolder folder;
     TextFile file(folder.write("file", "a\n"));

@@ -108,6 +108,15 @@ TEST(TestSequence, ShiftingMovesAVectorAndAllBehindIt) {
     EXPECT_EQ(textOf(*sequence), "a => | 1 H => | 36 L => | 41 H =>");
 }
 
+TEST(TestSequence, ShiftingOutOfTheRangeOfTimesMovesNothing) {
+    const auto sequence = sequenceFrom("time a\n0 H\n20 L\n30 H\n");
+    EXPECT_EQ(errorOf([&] { sequence->shiftFrom(1, 2147483618); }),
+              "Error: the vector at 30 can't be shifted by 2147483618: there is no such time.");
+    EXPECT_EQ(textOf(*sequence), "a => | 0 H => | 20 L => | 30 H =>");
+    sequence->shiftFrom(1, 2147483617);
+    EXPECT_EQ(textOf(*sequence), "a => | 0 H => | 2147483637 L => | 2147483647 H =>");
+}
+
 TEST(TestSequence, TheLastTimesAreTheLastVectors) {
     const auto sequence = sequenceFrom("time a ==(dT)=>\n0 H 100\n20 L 5\n");
     EXPECT_EQ(sequence->lastTime(), 20);

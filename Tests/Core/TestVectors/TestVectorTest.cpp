@@ -29,6 +29,16 @@ std::string textOf(const TestVector& vector) {
     return text;
 }
 
+TEST(TestVector, MadeByCodeEndsWithinTheRangeOfTimes) {
+    TestVector vector(2147483647U);
+    vector.setDeltaTime(1);
+    EXPECT_EQ(vector.endTime(), kLatestTime);
+    vector.setTime(kEarliestTime);
+    vector.setDeltaTime(-1);
+    EXPECT_EQ(vector.endTime(), kEarliestTime);
+    EXPECT_EQ(TestVector(4294967295U).time(), kLatestTime) << "never in the past";
+}
+
 TEST(TestVector, AVectorMadeByCodeIsEmpty) {
     const TestVector vector(120U);
     EXPECT_EQ(vector.time(), 120);
