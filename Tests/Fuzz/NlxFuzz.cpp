@@ -1,0 +1,30 @@
+#include "Core/Circuit/Circuit.h"
+#include "Tests/Fuzz/FuzzSupport.h"
+#include "Tests/Fuzz/FuzzTargets.h"
+
+namespace tarnsim {
+
+// Beside an Error, loading may end in a number beyond 32 bits (the size of an array or a port, a parameter) and in what
+// a part's values refuse (the value of a constant).
+void fuzzNlx(std::string_view input) {
+    const FuzzInput files(input);
+    if (!files.isModest()) return;
+    const FuzzFolder here(files.files);
+    completes(
+        [&] {
+            CircuitSpec spec("circuit.nlx", files.circuit);
+            if (!isSmall(spec)) return;
+            Circuit circuit(spec.getName(), nullptr);
+            circuit.setSpec(std::move(spec));
+            circuit.checkConnections();
+            circuit.print(true);
+            for (const Net* net : circuit.getNets()) {
+                check(circuit.findNet(circuit.getNetPath(net)) != nullptr || net->getName().empty(),
+                      "a net isn't found by its path");
+                for (const Port* port : net->getPorts()) check(port != nullptr, "a net has a port that isn't there");
+            }
+        },
+        {isNumberTooLarge, isRefusedValue});
+}
+
+}  // namespace tarnsim
