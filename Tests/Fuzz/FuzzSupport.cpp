@@ -95,6 +95,12 @@ bool isRefusedValue(const std::exception& exception) {
     return type == typeid(std::bad_cast);
 }
 
+bool isPastTheMemory(const std::exception& exception) {
+    const std::string_view text = exception.what();
+    const auto isOfSize = [&](const char* size) { return text.ends_with(format("this->size() (which is %s)", size)); };
+    return typeid(exception) == typeid(std::out_of_range) && (isOfSize("2048") || isOfSize("32768"));
+}
+
 bool completes(const std::function<void()>& action, std::initializer_list<bool (*)(const std::exception&)> rightEnds) {
     const CapturedStreams ignored;
     try {

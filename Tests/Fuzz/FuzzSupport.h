@@ -34,6 +34,8 @@ void checkSame(const std::string& one, const std::string& other, const std::stri
 bool isNumberTooLarge(const std::exception& exception);
 /// A value that refuses what it is given.
 bool isRefusedValue(const std::exception& exception);
+/// An image that runs past the end of a memory which has no other way to refuse it.
+bool isPastTheMemory(const std::exception& exception);
 
 /// Runs `action`, with nothing printed. False if it ended in an Error or in one of the named exceptions; others go on.
 bool completes(const std::function<void()>& action,

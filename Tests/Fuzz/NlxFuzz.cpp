@@ -4,8 +4,8 @@
 
 namespace tarnsim {
 
-// Beside an Error, loading may end in a number beyond 32 bits (the size of an array or a port, a parameter) and in what
-// a part's values refuse (the value of a constant).
+// Beside an Error, loading may end in a number beyond 32 bits (the size of an array or a port, a parameter), in what a
+// part's values refuse (the value of a constant), and in an image that is too large for its memory.
 void fuzzNlx(std::string_view input) {
     const FuzzInput files(input);
     if (!files.isModest()) return;
@@ -24,7 +24,7 @@ void fuzzNlx(std::string_view input) {
                 for (const Port* port : net->getPorts()) check(port != nullptr, "a net has a port that isn't there");
             }
         },
-        {isNumberTooLarge, isRefusedValue});
+        {isNumberTooLarge, isRefusedValue, isPastTheMemory});
 }
 
 }  // namespace tarnsim

@@ -28,7 +28,7 @@ std::string netsOf(const Circuit& circuit) {
 }  // namespace
 
 // Beside an Error, a run may end in numbers beyond 32 bits and in whatever a value refuses: in parameters, in
-// assignments, in parts that take a value as a number, and in expected texts.
+// assignments, in parts that take a value as a number, and in expected texts; and in images too large for a memory.
 void fuzzRun(std::string_view input) {
     const FuzzInput files(input);
     if (!files.isModest()) return;
@@ -50,7 +50,7 @@ void fuzzRun(std::string_view input) {
             verifier.printResults(0, "", "");
             verifier.printResults(kResolution, namesOf(circuit), netsOf(circuit));
         },
-        {isNumberTooLarge, isRefusedValue});
+        {isNumberTooLarge, isRefusedValue, isPastTheMemory});
 }
 
 }  // namespace tarnsim

@@ -19,7 +19,7 @@ std::unique_ptr<Circuit> load(const std::string& text) {
             circuit = std::make_unique<Circuit>(spec.getName(), nullptr);
             circuit->setSpec(std::move(spec));
         },
-        {isNumberTooLarge, isRefusedValue});
+        {isNumberTooLarge, isRefusedValue, isPastTheMemory});
     return isLoaded ? std::move(circuit) : nullptr;
 }
 

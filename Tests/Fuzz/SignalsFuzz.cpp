@@ -29,9 +29,8 @@ void fuzzSignals(std::string_view input) {
     TestSequence sequence(TestSequence::kEmpty);
     if (!completes([&] { read(std::string(input), sequence); })) return;
     const ExpectedOutputs expected(sequence);
-    for (int i = 0; i < sequence.vectorCount(); ++i) {
-        const Time time = sequence.vector(i)->endTime();
-        for (const std::string& name : sequence.header()->outputNames()) sequence.expectedOutput(name, time);
+    for (const std::string& name : sequence.header()->outputNames()) {
+        for (const auto& vector : sequence.vectors()) expected.at(name, vector->endTime());
     }
     const std::string once = written(sequence);
     TestSequence saved(TestSequence::kEmpty);
