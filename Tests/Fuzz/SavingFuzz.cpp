@@ -1,5 +1,6 @@
 #include <sstream>
 
+#include "Cli/Tarnfmt/Formatter.h"
 #include "Core/Circuit/Circuit.h"
 #include "Core/Circuit/CircuitFileWriter.h"
 #include "Tests/Fuzz/FuzzSupport.h"
@@ -44,6 +45,8 @@ void fuzzSaving(std::string_view input) {
     const FuzzFolder here(files.files);
     const auto circuit = load(files.circuit);
     if (circuit == nullptr) return;
+    completes([&] { normalFormOf(FileKind::Circuit, "circuit.nlx", files.circuit); },
+              {isNumberTooLarge, isRefusedValue, isPastTheMemory});
     const auto once = load(saved(*circuit));
     if (once == nullptr) return;
     const std::string text = saved(*once);
