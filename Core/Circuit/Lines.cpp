@@ -74,7 +74,8 @@ PortLine::PortLine(const std::vector<std::string>& fields, int number, const std
                     lineNumber, fileName.c_str());
     }
     size = fields[2];
-    if (!isInteger(size)) {
+    // What ends at its first character, a NUL, holds nothing wrong but no number either.
+    if (!isInteger(size) || size.front() == '\0') {
         throw Error("Error on line %d, in file %s: port size must be a number. '%s' is not.", lineNumber,
                     fileName.c_str(), size.c_str());
     }

@@ -20,14 +20,14 @@ namespace tarnsim {
 template <class Part, class Gate, auto... gateArguments>
 class GateArray : public SingleDelayComponent {
 public:
-    GateArray(const std::string& name, const ParaMap& parameters)
-        : SingleDelayComponent(std::string(Part::info.typeName), name, parameters) {
+    // Each begins with a complete object without gates: so the destructor runs also when what follows fails.
+
+    GateArray(const std::string& name, const ParaMap& parameters) : GateArray(name, parameters, WithoutGates()) {
         makeGates();
         this->readDelay();
     }
     /// `delay` in ns.
-    GateArray(const std::string& name, std::uint32_t delay)
-        : SingleDelayComponent(std::string(Part::info.typeName), name, delay) {
+    GateArray(const std::string& name, std::uint32_t delay) : GateArray(name, ParaMap(), WithoutGates()) {
         makeGates();
         GateArray::setDelay(delay);
     }
@@ -57,15 +57,19 @@ protected:
     }
 
 private:
+    struct WithoutGates {};
+    GateArray(const std::string& name, const ParaMap& parameters, WithoutGates /*unused*/)
+        : SingleDelayComponent(std::string(Part::info.typeName), name, parameters) {}
+
     void makeGates() {
         for (std::size_t i = 0; i < Part::gateCount; ++i) {
             const std::string number = std::to_string(i + 1);
-            auto gate = std::make_unique<Gate>("gate" + number, 0U, gateArguments...);
+            // Kept before it lends its ports: the destructor takes back those of the gates that are here.
+            Gate& gate = *gates_.emplace_back(std::make_unique<Gate>("gate" + number, 0U, gateArguments...));
             for (std::size_t k = 0; k < Part::pins.size(); ++k) {
                 std::string pin(Part::pins[k]);
-                addPort(gate->getPorts()[k], pin.replace(pin.find('#'), 1, number));
+                addPort(gate.getPorts()[k], pin.replace(pin.find('#'), 1, number));
             }
-            gates_.push_back(std::move(gate));
         }
     }
 

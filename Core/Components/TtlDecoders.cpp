@@ -56,12 +56,15 @@ void DM74LS137::evaluate(Time time) {
     Y.set(decoded, time);
 }
 
-DM74LS154::DM74LS154(const std::string& name, const ParaMap& parameters) : CircuitChip(name, parameters) {
+DM74LS154::DM74LS154(const std::string& name, std::uint32_t delay, Unwired /*unused*/) : CircuitChip(name, delay) {}
+
+DM74LS154::DM74LS154(const std::string& name, const ParaMap& parameters) : DM74LS154(name, kDelay, Unwired()) {
+    getParameters() = parameters;
     wire();
     applyParameters();
 }
 
-DM74LS154::DM74LS154(const std::string& name, std::uint32_t delay) : CircuitChip(name, delay) {
+DM74LS154::DM74LS154(const std::string& name, std::uint32_t delay) : DM74LS154(name, delay, Unwired()) {
     wire();
 }
 

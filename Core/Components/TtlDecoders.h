@@ -60,6 +60,9 @@ public:
     void evaluate(Time time) override;
 
 private:
+    /// The constructors begin with a complete object, so that the destructor runs also when what follows fails.
+    struct Unwired {};
+    DM74LS154(const std::string& name, std::uint32_t delay, Unwired /*unused*/);
     void wire();
 
     Pin& A = inputPin("A");

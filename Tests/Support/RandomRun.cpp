@@ -5,7 +5,7 @@
 
 #include "Core/Support/Text.h"
 #include "Tests/Cli/VerifierSupport.h"
-#include "Tests/Support/TestSupport.h"
+#include "Tests/Support/CapturedStreams.h"
 
 namespace tarnsim {
 
@@ -46,26 +46,23 @@ RandomRun runRandomCircuit(Circuit& circuit, const std::string& signalFile, cons
     RandomRun run;
     std::unique_ptr<TestSequence> sequence;
     std::unique_ptr<RecordingVerifier> verifier;
-    errorOutputOf([&] {
-        outputOf([&] {
-            try {
-                sequence = std::make_unique<TestSequence>(signalFile);
-                verifier = std::make_unique<RecordingVerifier>(&circuit, sequence.get(), true);
-                verifier->checkConnections();
-                verifier->runAndVerify();
-            } catch (const Error& error) {
-                run.error = error.what();
-            } catch (const std::exception& exception) {
-                run.error = exception.what();
-            }
-        });
-    });
+    try {
+        const CapturedStreams ignored;
+        sequence = std::make_unique<TestSequence>(signalFile);
+        verifier = std::make_unique<RecordingVerifier>(&circuit, sequence.get(), true);
+        verifier->checkConnections();
+        verifier->runAndVerify();
+    } catch (const Error& error) {
+        run.error = error.what();
+    } catch (const std::exception& exception) {
+        run.error = exception.what();
+    }
     if (!run.error.empty()) return run;
     for (const std::string& mismatch : verifier->mismatches) run.report += mismatch + "\n";
-    run.report += outputOf([&] {
-        verifier->printResults(0, pins, nets);
-        verifier->printResults(kResolution, pins, nets);
-    });
+    CapturedStreams tables;
+    verifier->printResults(0, pins, nets);
+    verifier->printResults(kResolution, pins, nets);
+    run.report += tables.output();
     return run;
 }
 

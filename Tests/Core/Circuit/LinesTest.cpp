@@ -163,6 +163,9 @@ TEST(PortLine, RefusesASizeThatIsNoWholeNumberBeforeItLooksAtTheDirection) {
                               {"Port Input d 8", refusal("d")},
                               {"Port Input - d", refusal("-")},
                               {"Port 8 Input d", refusal("Input")}});
+    // A message ends at a NUL, as C texts do.
+    const std::string nul(1, '\0');
+    expectRefusals<PortLine>({{"Port Input " + nul + "8 d", refusal("")}, {"Port Input " + nul + " d", refusal("")}});
 }
 
 TEST(PortLine, RefusesAnyDirectionButThreeAndNamesTwo) {

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <stdexcept>
+
 #include "Core/Circuit/Circuit.h"
 #include "Core/Circuit/ComponentRegistry.h"
 #include "Core/Simulation/EventSimulator.h"
@@ -66,6 +69,22 @@ TEST_P(PartLifecycle, EveryPortCanBeRemoved) {
     for (Port* port : std::vector<Port*>(part->getPorts())) part->removePort(port);
     EXPECT_TRUE(part->getPorts().empty());
     for (const auto& net : nets) EXPECT_TRUE(net->getPorts().empty()) << net->getName();
+}
+
+// A part that refuses its parameters when its ports are there already: some parts have ports of others among them,
+// which die first.
+TEST_P(PartLifecycle, APartThatIsRefusedInTheMakingTakesItsPortsAlong) {
+    const std::vector<std::string> readDelaysAtOnce = {"74LS00",  "74LS04",  "74LS08", "74LS32",
+                                                       "74LS125", "74LS139", "74LS154"};
+    ParaMap parameters = row().defaults();
+    parameters.parse(neededParameters(row().typeName()));
+    parameters["delay"] = "4294967296";
+    std::string refusal;
+    const std::string error =
+        errorOf([&] { refusal = standardExceptionOf<std::out_of_range>([&] { row().create("u", parameters); }); });
+    if (std::ranges::find(readDelaysAtOnce, type()) == readDelaysAtOnce.end()) return;
+    EXPECT_EQ(error, "(no Error)");
+    EXPECT_EQ(refusal, "stoul");
 }
 
 TEST_P(PartLifecycle, AUnitDiesWithItsCircuit) {
