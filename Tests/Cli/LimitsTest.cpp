@@ -233,7 +233,10 @@ public:
         EventSimulator simulator(&board_);
         simulator.prepare(kLatestTime);
         for (Port* port : part_->getPorts()) {
-            if (port->direction() != Direction::Input || !withStimulus) continue;
+            if (port->direction() != Direction::Input) continue;
+            // Something that a part would show that is looked at in the past.
+            port->set(Value(port->width()).fill('L'), kEarliestTime);
+            if (!withStimulus) continue;
             for (const Time time : {kFirstChange, kLatestTime - 1, kLatestTime}) {
                 port->set(Value(port->width()).fill((time & 1) != 0 ? 'H' : 'L'), time);
             }
@@ -244,7 +247,7 @@ public:
     std::string past() const {
         std::string letters;
         for (const Port* port : part_->getPorts()) {
-            for (const Time time : {kEarliestTime, kEarliestTime + 100, -1, 0, 1'000'000, kFirstChange - 1}) {
+            for (const Time time : {kEarliestTime, kEarliestTime + 50, -50, -1, 0, 1'000'000, kFirstChange - 1}) {
                 letters.append(port->get(time).letters()) += ' ';
             }
         }
