@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <sstream>
 
 #include "Cli/Tarnfmt/Formatter.h"
@@ -24,6 +25,17 @@ std::unique_ptr<Circuit> load(const std::string& text) {
     return isLoaded ? std::move(circuit) : nullptr;
 }
 
+/// The reader knows none of the escapes that the writer makes, so such meta data grows with every saving.
+bool needsEscapes(const Circuit& circuit) {
+    const auto isPlain = [](char c) { return c >= ' ' && c <= '~' && c != '\\' && c != '"'; };
+    for (const std::string& key : circuit.getMetaDataKeys()) {
+        for (const std::string& value : circuit.getMetaData(key)) {
+            if (!std::ranges::all_of(value, isPlain)) return true;
+        }
+    }
+    return std::ranges::any_of(circuit.getDeclarations(), [](const Circuit* each) { return needsEscapes(*each); });
+}
+
 std::string saved(const Circuit& circuit) {
     std::ostringstream text;
     CircuitFileWriter(&circuit).write(text, false);
@@ -38,13 +50,9 @@ std::string saved(const Circuit& circuit) {
 void fuzzSaving(std::string_view input) {
     const FuzzInput files(input);
     if (!files.isModest()) return;
-    // The reader knows none of the escapes that the writer makes, so such meta data grows with every saving.
-    for (const char letter : files.circuit) {
-        if (letter == '\\' || (letter != '\n' && (letter < ' ' || letter > '~'))) return;
-    }
     const FuzzFolder here(files.files);
     const auto circuit = load(files.circuit);
-    if (circuit == nullptr) return;
+    if (circuit == nullptr || needsEscapes(*circuit)) return;
     completes([&] { normalFormOf(FileKind::Circuit, "circuit.nlx", files.circuit); },
               {isNumberTooLarge, isRefusedValue, isPastTheMemory});
     const auto once = load(saved(*circuit));
