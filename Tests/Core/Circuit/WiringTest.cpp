@@ -52,7 +52,7 @@ std::string everythingOf(const ValueHistory& history, Time end) {
 TEST(Wiring, NobodyCanTellWiredSignalsFromOthers) {
     constexpr Time kEnd = 700;
     int runs = 0;
-    for (std::uint32_t seed = 1; seed <= 60; ++seed) {
+    for (std::uint32_t seed = 1; seed <= 20; ++seed) {
         SCOPED_TRACE(format("seed %u", seed));
         const Workplace here;
         RandomChoices choices(seed);
@@ -79,7 +79,7 @@ TEST(Wiring, NobodyCanTellWiredSignalsFromOthers) {
         for (std::size_t i = 0; i < histories[true].size(); ++i) ASSERT_EQ(histories[true][i], histories[false][i]);
         if (results[true].error.empty()) ++runs;
     }
-    EXPECT_GT(runs, 50);
+    EXPECT_GT(runs, 16);
 }
 
 /// A processor that runs a program from an EPROM and counts in a RAM, at 10 MHz.
