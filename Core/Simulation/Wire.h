@@ -67,12 +67,12 @@ public:
 
     /// False if the letters don't pass: nothing has happened then. REQUIRES: as many letters as the signals have bits
     bool set(std::string_view letters, Time time);
-    /// Sets once more what the wire holds at `time`.
-    void refresh(Time time);
     /// The same for who knows that the letters aren't those that the wire holds at `time`.
     bool change(std::string_view letters, Time time);
     /// And for who knows that they are: so they have passed before.
     void repeat(std::string_view letters, Time time) { records_.store(time, letters); }
+    /// Sets once more what the wire holds at `time`.
+    void refresh(Time time);
     /// REQUIRES: the signals have one bit, and the letter passes
     void setLetter(char letter, Time time) {
         if (records_.storeLetter(time, letter, kUndefinedBit) != letter) notify(time);
