@@ -36,15 +36,17 @@ void visitSignals(const Circuit& circuit, const std::function<void(ValueHistory&
     for (const Circuit* declaration : circuit.getDeclarations()) visitSignals(*declaration, visit);
 }
 
-/// All that can be read of a signal up to `end`.
+/// All that can be read of a signal up to `end`: at its changes, the latest first, and at every 50th nanosecond.
 std::string everythingOf(const ValueHistory& history, Time end) {
-    std::string text = format("%zu records, last %d:", history.recordCount(), history.lastChange(end));
-    for (Time time = -1; time <= end; ++time) {
-        if (!history.changedAt(time) && time % 50 != 0) continue;
+    std::string text = format("%zu records:", history.recordCount());
+    const auto tellAt = [&](Time time) {
         text += format(" %d %s", time, history.get(time).c_str());
+        if (history.changedAt(time)) text += "*";
         if (history.risingEdgeAt(time)) text += "+";
         if (history.fallingEdgeAt(time)) text += "-";
-    }
+    };
+    for (Time time = history.lastChange(end); time > kEarliestTime; time = history.lastChange(time - 1)) tellAt(time);
+    for (Time time = -1; time <= end; time += 50) tellAt(time);
     return text;
 }
 
