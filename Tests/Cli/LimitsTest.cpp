@@ -290,7 +290,7 @@ std::vector<const ComponentType*> allTypes() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Limits, EveryPart, testing::ValuesIn(allTypes()),
-                         [](const auto& info) { return std::string(info.param->typeName()); });
+                         [](const auto& type) { return std::string(type.param->typeName()); });
 
 }  // namespace
 }  // namespace tarnsim
