@@ -45,7 +45,7 @@ TEST_P(FuzzCorpus, RunsWithoutAFinding) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Targets, FuzzCorpus, testing::ValuesIn(kFuzzTargets),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& target) { return std::string(target.param.name); });
 
 }  // namespace
 
