@@ -198,6 +198,13 @@ TEST_F(ResultTable, AnInputOfAUnitThatFloatsReadsUndefined) {
     root.removeComponent(&inner);
 }
 
+TEST_F(ResultTable, NeedsAStepThatLeadsOn) {
+    EXPECT_EQ(errorOf([&] { simulator.printEvery({"a"}, {}, {}, 0); }),
+              "Error: a table needs a time step above 0, not 0.");
+    EXPECT_EQ(errorOf([&] { simulator.printEvery({"a"}, {}, {}, -5); }),
+              "Error: a table needs a time step above 0, not -5.");
+}
+
 TEST_F(ResultTable, AMissingPortIsAnErrorAndNothingIsPrinted) {
     std::string message;
     const std::string printed =

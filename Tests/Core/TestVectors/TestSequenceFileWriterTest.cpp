@@ -35,6 +35,16 @@ TEST(TestSequenceFileWriter, AFormerFileIsReplacedAsAWhole) {
     EXPECT_EQ(readBytes(path), "time a => q \n");
 }
 
+TEST(TestSequenceFileWriter, ASequenceWithoutAHeaderIsRefusedAndTheFormerFileKept) {
+    const TemporaryFolder folder;
+    const std::string path = folder.write("old.sig", "time a => q\n");
+    TestSequence empty(TestSequence::kNewFile);
+    empty.clear();
+    EXPECT_EQ(errorOf([&] { TestSequenceFileWriter().write(empty, path, false); }),
+              "A test sequence without a header cannot be written.");
+    EXPECT_EQ(readBytes(path), "time a => q\n");
+}
+
 TEST(TestSequenceFileWriter, OnlyAFileThatCannotBeOpenedIsRefused) {
     const TemporaryFolder folder;
     const TestSequenceFileWriter writer;
