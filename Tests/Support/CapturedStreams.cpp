@@ -1,6 +1,7 @@
 #include "Tests/Support/CapturedStreams.h"
 
 #include <cstdlib>
+#include <memory>
 #include <new>
 
 namespace tarnsim {
@@ -9,8 +10,8 @@ namespace {
 
 /// Open to the end of the process.
 std::FILE* nowhere() {
-    static std::FILE* const file = std::fopen("/dev/null", "w");
-    return file;
+    static const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen("/dev/null", "w"), &std::fclose);
+    return file.get();
 }
 
 }  // namespace

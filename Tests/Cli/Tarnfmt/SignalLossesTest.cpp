@@ -1,5 +1,6 @@
 #include "Cli/Tarnfmt/SignalLosses.h"
 
+#include "Core/Support/Text.h"
 #include "Tests/Core/TestVectors/SequenceSupport.h"
 
 namespace tarnsim {
