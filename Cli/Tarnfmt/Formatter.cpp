@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <exception>
 #include <memory>
 #include <sstream>
 
@@ -148,10 +147,6 @@ NormalForm normalFormOf(FileKind kind, const std::string& path, const std::strin
         (isCircuit ? checkCircuit : checkSignals)(path, contents, result);
     } catch (const Error& error) {
         result.readingFailure = trimmed(error.what());
-    } catch (const std::bad_alloc&) {
-        throw;  // no fault of the text
-    } catch (const std::exception& error) {
-        result.readingFailure = error.what();
     }
     // Those without a line stand last.
     std::ranges::stable_sort(result.losses, {}, [](const Loss& loss) { return static_cast<unsigned>(loss.line) - 1; });

@@ -252,21 +252,13 @@ const Net::Roles& Net::roles() const {
 }
 
 bool Net::isDriver(const Port& port) const {
-    switch (port.direction()) {
-        case Direction::Output: return port.getNet(kOutside) == this;
-        case Direction::Input: return port.getNet(kInside) == this;
-        case Direction::Inout: return port.getNet(kInside) == this && port.recordCount() > 0;
-    }
-    return false;
+    if (port.direction() == Direction::Inout) return port.getNet(kInside) == this && port.recordCount() > 0;
+    return port.getNet(port.direction() == Direction::Output ? kOutside : kInside) == this;
 }
 
 bool Net::isFollower(const Port& port) const {
-    switch (port.direction()) {
-        case Direction::Output: return port.getNet(kInside) == this;
-        case Direction::Input: return port.getNet(kOutside) == this;
-        case Direction::Inout: return false;
-    }
-    return false;
+    if (port.direction() == Direction::Inout) return false;
+    return port.getNet(port.direction() == Direction::Output ? kInside : kOutside) == this;
 }
 
 Net* Net::otherNet(const Port& port) const {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "Core/Components/Gates.h"
 #include "Core/Components/Memories.h"
 #include "Core/Simulation/EventSimulator.h"
 #include "Core/Simulation/Wire.h"
@@ -626,6 +627,29 @@ TEST(Wiring, ManyListenersAreEvaluatedEachAfterItsDelay) {
         EXPECT_EQ(board->findPort("u0.out")->get(66), 'L');
     }
     EXPECT_EQ(histories[true], histories[false]);
+}
+
+/// What a large board's events will touch is noted beforehand.
+TEST(Wiring, ALargeBoardRunsAsASmallOne) {
+    constexpr int kInverters = 601;
+    Circuit root("root", nullptr);
+    std::vector<std::unique_ptr<Inv>> inverters;
+    std::vector<Port*> ends = {root.createPin(Direction::Input, "in")};
+    for (int i = 0; i < kInverters; ++i) {
+        auto& inverter = *inverters.emplace_back(std::make_unique<Inv>("u" + std::to_string(i), 3U));
+        root.addChild(&inverter, nullptr);
+        root.createNet("n" + std::to_string(i), {ends.back(), inverter.findPort("in")});
+        ends.push_back(inverter.findPort("out"));
+    }
+    EventSimulator simulator(&root);
+    simulator.prepare(2000);
+    ends.front()->set(Value("H"), 10);
+    simulator.run(2000);
+    for (int i = 1; i <= kInverters; ++i) {
+        const char letter = i % 2 == 0 ? 'H' : 'L';
+        EXPECT_EQ(ends[static_cast<std::size_t>(i)]->get(10 + 3 * i), letter) << i;
+        EXPECT_EQ(ends[static_cast<std::size_t>(i)]->get(9 + 3 * i), 'U') << i;
+    }
 }
 
 TEST(Wiring, AnyNumberOfLevelsIsOneWire) {

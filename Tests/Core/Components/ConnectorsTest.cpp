@@ -113,6 +113,18 @@ TEST(Join, OfAnInputWithoutExpressionTakesTheBitsAsTheyCome) {
     bench.expectSteps("out", {{"a=HL", "UUHL"}});
 }
 
+/// Of an empty expression each bit is its own number, in as many bits as there are.
+TEST(SplitUnit, GivesAnOutputWithoutBitsOfItsOwnAsManyAsItHas) {
+    Split split("s", 8, {{"all", ""}});
+    Port& all = *split.findPort("all");
+    split.in->set(Value("LLLLLHLL"), 5);
+    split.evaluate(5);
+    EXPECT_EQ(all.recordCount(), 0U);  // no width, no value
+    all.set(Value("UUU"), 6);
+    split.evaluate(7);
+    EXPECT_EQ(all.get(7), "HLL");
+}
+
 TEST(SplitUnit, GivesEachOutputItsBits) {
     Split split("s", 8, {{"hi", "7:4"}, {"mirror", "0:3"}, {"pick", "6;0;6"}, {"bit", "5"}});
     PartBench bench(split, 0);
