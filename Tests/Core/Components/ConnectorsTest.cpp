@@ -117,7 +117,7 @@ TEST(Join, OfAnInputWithoutExpressionTakesTheBitsAsTheyCome) {
 TEST(SplitUnit, GivesAnOutputWithoutBitsOfItsOwnAsManyAsItHas) {
     Split split("s", 8, {{"all", ""}});
     Port& all = *split.findPort("all");
-    split.in->set(Value("LLLLLHLL"), 5);
+    split.findPort("in")->set(Value("LLLLLHLL"), 5);
     split.evaluate(5);
     EXPECT_EQ(all.recordCount(), 0U);  // no width, no value
     all.set(Value("UUU"), 6);
