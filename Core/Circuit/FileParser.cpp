@@ -5,7 +5,6 @@
 namespace tarnsim {
 
 void FileParser::prepareLine(std::string& line) {
-    trim(line);
     stripComment(line);
     trim(line);
 }

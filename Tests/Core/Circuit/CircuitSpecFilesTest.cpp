@@ -239,6 +239,16 @@ TEST(CircuitFile, MayCloseABodyOnlyIfOneIsOpenInIt) {
     EXPECT_EQ(errorOfBoard(), "Error in part.nlx:3: } without an open Circuit.");
 }
 
+TEST(CircuitFile, OfACircuitThatLeavesABodyOpenIsOpenItself) {
+    const Workplace here;
+    here.write("part.nlx", "Unit And a\nCircuit y {\nUnit And b\n");
+    here.write("board.nlx", "Circuit x \"part.nlx\"\nUnit And c\n}\nUnit And d\n");
+    const CircuitSpec spec("board.nlx");
+    EXPECT_EQ(unitNames(spec), Texts{"d"});
+    EXPECT_EQ(unitNames(*spec.subSpecs.at(0)), (Texts{"a", "c"}));
+    EXPECT_EQ(unitNames(*spec.subSpecs.at(0)->subSpecs.at(0)), Texts{"b"});
+}
+
 TEST(CircuitFile, MayLeaveABodyOpenForTheStatementsBehindItsImport) {
     const Workplace here;
     here.write("open.nlx", "Circuit x {\nUnit And a\n");

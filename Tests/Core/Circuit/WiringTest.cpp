@@ -629,6 +629,55 @@ TEST(Wiring, ManyListenersAreEvaluatedEachAfterItsDelay) {
     EXPECT_EQ(histories[true], histories[false]);
 }
 
+TEST(Wiring, ABusOfManyBitsTakesLateValues) {
+    const Value first("HLHLLLHHHLLLLHHHHLHL");
+    const Value late("LLHHLHLHLLHLHLHHLLLH");
+    Circuit board("board", nullptr);
+    const std::vector<Port*> drivers = {board.createPort(20, Direction::Input, "a"),
+                                        board.createPort(20, Direction::Input, "b")};
+    Port* follower = board.createPort(20, Direction::Output, "q");
+    const Net* net = board.createNet("n", {drivers[0], drivers[1], follower});
+    EventSimulator simulator(&board);
+    simulator.prepare(100);
+    ASSERT_NE(drivers[0]->getBus(), nullptr);
+    for (Port* driver : drivers) driver->set(Value(std::string(20, 'Z')), 0);
+    drivers[0]->set(first, 30);
+    drivers[1]->set(late, 10);
+    EXPECT_EQ(net->get(10), late);
+    EXPECT_EQ(follower->get(29), late);
+    EXPECT_EQ(follower->get(30), first);
+    board.setSimulator(nullptr);
+}
+
+/// Between two wires lies a net that somebody listens to. What its follower is set to by hand goes nowhere.
+TEST(Wiring, WhatReadsANetDrivesWhatItReadsThere) {
+    Listener eavesdropper;
+    Circuit inner("inner", nullptr);
+    Pin* in = inner.createPin(Direction::Input, "in");
+    Pin* out = inner.createPin(Direction::Output, "out");
+    Net* between = inner.createNet("n", {in, out});
+    between->subscribe(&eavesdropper);
+    Circuit board("board", nullptr);
+    board.addChild(&inner, nullptr);
+    Pin* a = board.createPin(Direction::Input, "a");
+    Pin* q = board.createPin(Direction::Output, "q");
+    board.createNet("na", {a, in});
+    board.createNet("nq", {out, q});
+    EventSimulator simulator(&board);
+    simulator.prepare(100);
+    ASSERT_EQ(between->getWire(), nullptr);
+    ASSERT_NE(out->getWire(), nullptr);
+    a->set(Value("L"), 1);
+    EXPECT_EQ(q->get(1), 'L');
+    out->set(Value("H"), 5);
+    EXPECT_EQ(q->get(5), 'L');
+    EXPECT_EQ(out->get(5), 'L');
+    a->set(Value("H"), 7);
+    EXPECT_EQ(q->get(7), 'H');
+    board.setSimulator(nullptr);
+    between->unsubscribe(&eavesdropper);
+}
+
 /// What a large board's events will touch is noted beforehand.
 TEST(Wiring, ALargeBoardRunsAsASmallOne) {
     constexpr int kInverters = 601;

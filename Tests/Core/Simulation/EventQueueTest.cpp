@@ -284,6 +284,21 @@ TEST_F(EventQueueTest, WhatIsEnteredForThePastWaitsForARewind) {
     EXPECT_EQ(takeNext(), "nothing");
 }
 
+TEST_F(EventQueueTest, WhatIsEnteredAfterARewindWaitsForWhatComesBefore) {
+    queue.insert(number(a), 10);
+    queue.insert(number(a), 5000);
+    EXPECT_EQ(takeNext(), "10: a0");
+    EXPECT_EQ(takeNext(), "5000: a0");
+    queue.rewind();
+    queue.insert(number(b), 6000);
+    queue.insert(number(b), 4999);
+    EXPECT_EQ(takeNext(), "10: a0");
+    EXPECT_EQ(takeNext(), "4999: b0");
+    EXPECT_EQ(takeNext(), "5000: a0");
+    EXPECT_EQ(takeNext(), "6000: b0");
+    EXPECT_EQ(takeNext(), "nothing");
+}
+
 TEST_F(EventQueueTest, ARewindBringsGroupsBack) {
     const EventNumber group = directory.numberOfGroup({number(a), number(b)});
     for (const Time time : {1, 2, 20000}) queue.insert(group, time);
