@@ -280,6 +280,23 @@ TEST(Net, ATakeOverOfANarrowPortIsRefused) {
               "The port 'narrow' has size 2, but is added to net 'n' with size 4.");
 }
 
+TEST(Net, ATakeOverThatIsRefusedLeavesEachPortOnOneOfTheNets) {
+    Port first(4, Direction::Inout, "first");
+    Port narrow(2, Direction::Inout, "narrow");
+    Port last(4, Direction::Inout, "last");
+    Net net("n", 4);
+    Net other("other", 4);
+    other.addPort(&first, kOutside);
+    other.addPort(&narrow, 1, 0, kOutside);
+    other.addPort(&last, kInside);
+    EXPECT_NE(errorOf([&] { net.takeOver(other); }), "");
+    EXPECT_EQ(net.getPorts(), Ports{&first});
+    EXPECT_EQ(other.getPorts(), (Ports{&narrow, &last}));
+    EXPECT_EQ(first.getNet(kOutside), &net);
+    EXPECT_EQ(narrow.getNet(kOutside), &other);
+    EXPECT_EQ(last.getNet(kInside), &other);
+}
+
 TEST(Net, TheOldestOfMergingNetsStaysWhereverTheyLieInMemory) {
     for (const std::array<std::size_t, 3> creation : {std::array<std::size_t, 3>{0, 1, 2}, {2, 1, 0}, {1, 2, 0}}) {
         std::array<std::optional<Net>, 3> slots;  // ascending addresses
